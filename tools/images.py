@@ -80,13 +80,21 @@ def ecrit_png(image, chemin):
     image.save(chemin, "PNG", optimize=True)
 
 
-def ecrit_gif(image, chemin):
-    """GIF knows no half-transparent pixel, so only opaque faces are accepted."""
+def en_palette(image, couleurs=256):
+    """An opaque image in a palette, undithered: dots would cost more bytes than they save.
+
+    Median cut alone drowns the few orange pixels in the blue ones; k-means brings them back.
+    """
     if image.getextrema()[3] != (255, 255):
-        sys.exit(f"images.py : {chemin.name} n'est pas opaque")
+        sys.exit("images.py : une image à palette doit être opaque")
+    return image.convert("RGB").quantize(couleurs, method=Image.Quantize.MEDIANCUT, kmeans=5,
+                                         dither=Image.Dither.NONE)
+
+
+def ecrit_gif(image, chemin):
+    """64 colours: the faces are flat, and only their edges have tones between."""
     chemin.parent.mkdir(parents=True, exist_ok=True)
-    palette = image.convert("RGB").quantize(64, method=Image.Quantize.MEDIANCUT, dither=Image.Dither.NONE)
-    palette.save(chemin, "GIF", optimize=True)
+    en_palette(image, 64).save(chemin, "GIF", optimize=True)
 
 
 def a_echelles(nom, dossier, echelles):
@@ -108,7 +116,10 @@ def produit(racine):
 
     for source in sorted(SOURCES.glob("icones/*.svg")) + sorted(SOURCES.glob("boutons/*.svg")):
         a_echelles(f"{source.parent.name}/{source.stem}", ressources, (1, 2, 3))
-    a_echelles("accueil", ressources, (1, 2))
+    largeur, hauteur = taille_logique(SOURCES / "accueil.svg")
+    for echelle, suffixe in ((1, ""), (2, "@2x")):
+        image = dessine("accueil", largeur * echelle, hauteur * echelle)
+        en_palette(image).save(ressources / f"accueil{suffixe}.png", "PNG", optimize=True)
     for nom in ("velmoria", "velmoria-banc"):
         for cote in COTES_PROGRAMME:
             ecrit_png(dessine(nom, cote, cote), ressources / f"{nom}-{cote}.png")
