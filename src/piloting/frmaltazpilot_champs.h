@@ -1,0 +1,91 @@
+// The pilot panel of the alt-azimuth mount, as designed.
+#pragma once
+
+#include "shell/controles.h"
+
+namespace frmaltazpilot {
+
+using namespace shell;
+
+inline constexpr int largeur_fermee = 5500;
+inline constexpr int largeur_ouverte = 10200;
+
+inline constinit panneau fiche{"frmaltazpilot", "Pilotage", largeur_fermee, 4710};
+
+inline constinit champ_cadre Frdeplacement{
+    fiche, "Frdeplacement", {90, 60, 2490, 2550}, {.legende = "Déplacement"}};
+inline constinit champ_bouton cmdhh{
+    fiche, "cmdhh", {885, 300, 720, 720}, {.cadre = &Frdeplacement, .image = "fleche_haut"}};
+inline constinit champ_bouton cmdag{
+    fiche, "cmdag", {135, 1050, 720, 720}, {.cadre = &Frdeplacement, .image = "fleche_gauche"}};
+inline constinit champ_bouton cmddstop{fiche,
+                                       "cmddstop",
+                                       {885, 1050, 720, 720},
+                                       {.cadre = &Frdeplacement, .image = "stop", .traits = arret | echap}};
+inline constinit champ_bouton cmdad{
+    fiche, "cmdad", {1635, 1050, 720, 720}, {.cadre = &Frdeplacement, .image = "fleche_droite"}};
+inline constinit champ_bouton cmdhb{
+    fiche, "cmdhb", {885, 1800, 720, 660}, {.cadre = &Frdeplacement, .image = "fleche_bas"}};
+
+inline constinit champ_cadre Fraz{fiche, "Fraz", {2640, 60, 2640, 1245}, {.legende = "Azimut"}};
+inline constinit champ_curseur slaz{
+    fiche, "slaz", {90, 300, 1860, 390}, {.cadre = &Fraz, .max = 4, .valeur = 3}};
+inline constinit champ_texte txtnumaz{
+    fiche, "txtnumaz", {2040, 300, 480, 375}, {.legende = "4", .cadre = &Fraz, .traits = centre}};
+inline constinit champ_texte txtv_az{
+    fiche, "txtv_az", {120, 765, 2400, 375}, {.legende = "IIIIIIIIII", .cadre = &Fraz}};
+
+inline constinit champ_cadre Fralt{fiche, "Fralt", {2640, 1365, 2640, 1245}, {.legende = "Altitude"}};
+inline constinit champ_curseur slalt{
+    fiche, "slalt", {90, 300, 1860, 390}, {.cadre = &Fralt, .max = 4, .valeur = 3}};
+inline constinit champ_texte txtnumalt{
+    fiche, "txtnumalt", {2040, 300, 480, 375}, {.legende = "4", .cadre = &Fralt, .traits = centre}};
+inline constinit champ_texte txtv_alt{
+    fiche, "txtv_alt", {120, 765, 2400, 375}, {.legende = "IIIIIIIIII", .cadre = &Fralt}};
+
+inline constinit champ_bouton Cmdquit{fiche, "Cmdquit", {90, 3330, 1500, 450}, {.legende = "Quitter"}};
+inline constinit champ_etiquette lblvit{
+    fiche, "lblvit", {4680, 3330, 600, 450}, {.legende = "8", .traits = symbole | centre}};
+
+inline constinit champ_etiquette Label1{
+    fiche, "Label1", {5490, 60, 4500, 300}, {.legende = "Ajustement des vitesses", .traits = gras}};
+inline constinit champ_etiquette Label3{
+    fiche, "Label3", {5490, 435, 2190, 285}, {.legende = "Vitesses Azimut"}};
+inline constinit champ_etiquette Label2{
+    fiche, "Label2", {7800, 435, 2190, 285}, {.legende = "Vitesses Altitude"}};
+
+inline constexpr dessin vitesse{.max = 32767, .grand = 100};
+inline constinit champ_barre HScroll1{fiche, "HScroll1", {5490, 810, 1290, 300}, vitesse};
+inline constinit champ_barre HScroll2{fiche, "HScroll2", {5490, 1290, 1290, 300}, vitesse};
+inline constinit champ_barre HScroll3{fiche, "HScroll3", {5490, 1770, 1290, 300}, vitesse};
+inline constinit champ_barre HScroll4{fiche, "HScroll4", {5490, 2250, 1290, 300}, vitesse};
+inline constinit champ_barre HScroll5{fiche, "HScroll5", {5490, 2730, 1290, 300}, vitesse};
+inline constinit tableau<champ_texte, 5> tAZ{fiche,
+                                             "tAZ",
+                                             {{6840, 780, 840, 375},
+                                              {6840, 1260, 840, 375},
+                                              {6840, 1740, 840, 375},
+                                              {6840, 2220, 840, 375},
+                                              {6840, 2700, 840, 375}}};
+inline constinit champ_barre HScroll6{fiche, "HScroll6", {7800, 810, 1290, 300}, vitesse};
+inline constinit champ_barre HScroll7{fiche, "HScroll7", {7800, 1290, 1290, 300}, vitesse};
+inline constinit champ_barre HScroll8{fiche, "HScroll8", {7800, 1770, 1290, 300}, vitesse};
+inline constinit champ_barre HScroll9{fiche, "HScroll9", {7800, 2250, 1290, 300}, vitesse};
+inline constinit champ_barre HScroll10{fiche, "HScroll10", {7800, 2730, 1290, 300}, vitesse};
+inline constinit tableau<champ_texte, 5> tAlt{fiche,
+                                              "tAlt",
+                                              {{9150, 780, 840, 375},
+                                               {9150, 1260, 840, 375},
+                                               {9150, 1740, 840, 375},
+                                               {9150, 2220, 840, 375},
+                                               {9150, 2700, 840, 375}}};
+inline constinit champ_bouton cmdvalid{fiche, "cmdvalid", {8790, 3330, 1200, 450}, {.legende = "Ok"}};
+
+inline std::vector<controle*> controles() {
+    return liste(Frdeplacement, cmdhh, cmdag, cmddstop, cmdad, cmdhb, Fraz, slaz, txtnumaz, txtv_az, Fralt,
+                 slalt, txtnumalt, txtv_alt, Cmdquit, lblvit, Label1, Label3, Label2, HScroll1, HScroll2,
+                 HScroll3, HScroll4, HScroll5, tAZ, HScroll6, HScroll7, HScroll8, HScroll9, HScroll10, tAlt,
+                 cmdvalid);
+}
+
+} // namespace frmaltazpilot

@@ -1,0 +1,107 @@
+// The pilot panel of the equatorial mount, as designed, with the group of its sidereal drive.
+#pragma once
+
+#include "shell/controles.h"
+
+namespace frmequapilot {
+
+using namespace shell;
+
+inline constexpr int largeur_fermee = 6000;
+inline constexpr int largeur_ouverte = 10680;
+
+inline constinit panneau fiche{"frmequapilot", "Pilotage", largeur_fermee, 4800};
+
+inline constinit champ_cadre Frdeplacement{
+    fiche, "Frdeplacement", {90, 60, 2490, 2550}, {.legende = "Déplacement"}};
+inline constinit champ_bouton cmdhh{
+    fiche, "cmdhh", {885, 300, 720, 720}, {.cadre = &Frdeplacement, .image = "fleche_haut"}};
+inline constinit champ_bouton cmdag{
+    fiche, "cmdag", {135, 1050, 720, 720}, {.cadre = &Frdeplacement, .image = "fleche_gauche"}};
+inline constinit champ_bouton cmddstop{fiche,
+                                       "cmddstop",
+                                       {885, 1050, 720, 720},
+                                       {.cadre = &Frdeplacement, .image = "stop", .traits = arret | echap}};
+inline constinit champ_bouton cmdad{
+    fiche, "cmdad", {1635, 1050, 720, 720}, {.cadre = &Frdeplacement, .image = "fleche_droite"}};
+inline constinit champ_bouton cmdhb{
+    fiche, "cmdhb", {885, 1800, 720, 660}, {.cadre = &Frdeplacement, .image = "fleche_bas"}};
+
+inline constinit champ_cadre Frame2{
+    fiche, "Frame2", {2640, 60, 3135, 2550}, {.legende = "Réglage des vitesses"}};
+inline constinit champ_etiquette Label5{
+    fiche, "Label5", {120, 300, 600, 375}, {.legende = "A.D", .cadre = &Frame2}};
+inline constinit champ_curseur slaz{
+    fiche, "slaz", {690, 300, 1740, 390}, {.cadre = &Frame2, .max = 4, .valeur = 3}};
+inline constinit champ_texte txtnumaz{
+    fiche, "txtnumaz", {2520, 300, 480, 375}, {.legende = "4", .cadre = &Frame2, .traits = centre}};
+inline constinit champ_texte txtv_az{
+    fiche, "txtv_az", {720, 765, 2280, 375}, {.legende = "IIIIIIIIII", .cadre = &Frame2}};
+inline constinit champ_etiquette Label6{
+    fiche, "Label6", {120, 1500, 600, 375}, {.legende = "Déc.", .cadre = &Frame2}};
+inline constinit champ_curseur slalt{
+    fiche, "slalt", {690, 1500, 1740, 390}, {.cadre = &Frame2, .max = 4, .valeur = 3}};
+inline constinit champ_texte txtnumalt{
+    fiche, "txtnumalt", {2520, 1500, 480, 375}, {.legende = "4", .cadre = &Frame2, .traits = centre}};
+inline constinit champ_texte txtv_alt{
+    fiche, "txtv_alt", {720, 1965, 2280, 375}, {.legende = "IIIIIIIIII", .cadre = &Frame2}};
+
+inline constinit champ_cadre Frame1{fiche, "Frame1", {90, 2670, 5685, 1110}, {.legende = "Suivi sidéral"}};
+inline constinit champ_bouton cmdgo{
+    fiche, "cmdgo", {120, 300, 720, 690}, {.cadre = &Frame1, .image = "marche"}};
+inline constinit champ_bouton cmdstopgo{
+    fiche, "cmdstopgo", {900, 300, 720, 690}, {.legende = "Stop", .cadre = &Frame1, .traits = arret}};
+inline constinit champ_etiquette Label4{
+    fiche, "Label4", {1740, 270, 1500, 270}, {.legende = "Suivi sidéral", .cadre = &Frame1}};
+inline constinit champ_texte txtpas{fiche, "txtpas", {1740, 585, 1740, 375}, {.cadre = &Frame1}};
+inline constinit champ_texte txtpas1{fiche, "txtpas1", {3540, 585, 600, 375}, {.cadre = &Frame1}};
+inline constinit champ_texte txtessai{fiche, "txtessai", {4200, 585, 720, 375}, {.cadre = &Frame1}};
+inline constinit champ_texte txts{fiche, "txts", {4980, 585, 540, 375}, {.cadre = &Frame1}};
+inline constinit minuteur timersuivi{fiche, "timersuivi", {.intervalle = 100}};
+
+inline constinit champ_bouton Cmdquit{fiche, "Cmdquit", {90, 3840, 1500, 420}, {.legende = "Quitter"}};
+inline constinit champ_etiquette lblvit{
+    fiche, "lblvit", {5175, 3840, 600, 420}, {.legende = "8", .traits = symbole | centre}};
+
+inline constinit champ_etiquette Label1{
+    fiche, "Label1", {5970, 60, 4500, 300}, {.legende = "Ajustement des vitesses", .traits = gras}};
+inline constinit champ_etiquette Label3{fiche, "Label3", {5970, 435, 2190, 285}, {.legende = "Vitesses A.D"}};
+inline constinit champ_etiquette Label2{
+    fiche, "Label2", {8280, 435, 2190, 285}, {.legende = "Vitesses Déc."}};
+
+inline constexpr dessin vitesse{.max = 32767, .grand = 100};
+inline constinit champ_barre HScroll1{fiche, "HScroll1", {5970, 810, 1290, 300}, vitesse};
+inline constinit champ_barre HScroll2{fiche, "HScroll2", {5970, 1290, 1290, 300}, vitesse};
+inline constinit champ_barre HScroll3{fiche, "HScroll3", {5970, 1770, 1290, 300}, vitesse};
+inline constinit champ_barre HScroll4{fiche, "HScroll4", {5970, 2250, 1290, 300}, vitesse};
+inline constinit champ_barre HScroll5{fiche, "HScroll5", {5970, 2730, 1290, 300}, vitesse};
+inline constinit tableau<champ_texte, 5> tAD{fiche,
+                                             "tAD",
+                                             {{7320, 780, 840, 375},
+                                              {7320, 1260, 840, 375},
+                                              {7320, 1740, 840, 375},
+                                              {7320, 2220, 840, 375},
+                                              {7320, 2700, 840, 375}}};
+inline constinit champ_barre HScroll6{fiche, "HScroll6", {8280, 810, 1290, 300}, vitesse};
+inline constinit champ_barre HScroll7{fiche, "HScroll7", {8280, 1290, 1290, 300}, vitesse};
+inline constinit champ_barre HScroll8{fiche, "HScroll8", {8280, 1770, 1290, 300}, vitesse};
+inline constinit champ_barre HScroll9{fiche, "HScroll9", {8280, 2250, 1290, 300}, vitesse};
+inline constinit champ_barre HScroll10{fiche, "HScroll10", {8280, 2730, 1290, 300}, vitesse};
+inline constinit tableau<champ_texte, 5> tDc{fiche,
+                                             "tDc",
+                                             {{9630, 780, 840, 375},
+                                              {9630, 1260, 840, 375},
+                                              {9630, 1740, 840, 375},
+                                              {9630, 2220, 840, 375},
+                                              {9630, 2700, 840, 375}}};
+inline constinit champ_bouton cmdvalid{fiche, "cmdvalid", {9270, 3330, 1200, 450}, {.legende = "Ok"}};
+
+inline std::vector<controle*> controles() {
+    return liste(Frdeplacement, cmdhh, cmdag, cmddstop, cmdad, cmdhb, Frame2, Label5, slaz, txtnumaz, txtv_az,
+                 Label6, slalt, txtnumalt, txtv_alt, Frame1, cmdgo, cmdstopgo, Label4, txtpas, txtpas1,
+                 txtessai, txts, timersuivi, Cmdquit, lblvit, Label1, Label3, Label2, HScroll1, HScroll2,
+                 HScroll3, HScroll4, HScroll5, tAD, HScroll6, HScroll7, HScroll8, HScroll9, HScroll10, tDc,
+                 cmdvalid);
+}
+
+} // namespace frmequapilot

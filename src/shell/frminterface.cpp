@@ -1,0 +1,202 @@
+#include "shell/frminterface.h"
+
+#include "base/nombre.h"
+#include "drive/etat_moteur.h"
+#include "piloting/frmaltazpilot_champs.h"
+#include "piloting/frmequapilot_champs.h"
+#include "piloting/jeu.h"
+#include "platform/image.h"
+#include "platform/plateforme.h"
+#include "pointing/etat_pointage.h"
+#include "settings/valeurs.h"
+#include "settings/vitesses.h"
+#include "shell/frminterface_champs.h"
+#include "shell/frmintro_champs.h"
+#include "tracking/etat_suivi.h"
+
+namespace frminterface {
+
+using plateforme::Out32;
+using plateforme::registre_controle;
+using plateforme::registre_donnees;
+
+namespace {
+
+constexpr int controle_ordinateur = 1;
+constexpr int controle_raquette = 11;
+constexpr int controle_libre = 0;
+
+// ---- start-up
+
+// Keeps the splash on screen for as long as the processor takes to count.
+void compte_a_vide() {
+    volatile int i = 0;
+    while (i <= 5'000'000)
+        i = i + 1;
+}
+
+void charge_images() {
+    valeurs::lecteur f{plateforme::fichier_donnees("img/liste.txt")};
+    for (int i = 0; !f.fini(); ++i) {
+        const auto nom = f.texte();
+        const auto image =
+            plateforme::courante.vue->charge_image(plateforme::fichier_donnees("img/" + nom + ".gif"));
+        base::element(plateforme::imagesboutons, i, "img/liste.txt, imagesboutons") = image;
+    }
+}
+
+void charge() {
+    frmintro::fiche.montre();
+    plateforme::courante.vue->repeint(frmintro::fiche);
+    frmintro::Label.legende(" chargement des bibliothèques d'objets");
+    vitesses::litvitesses();
+    compte_a_vide();
+    plateforme::cede();
+    charge_images();
+    mnusuivi.actif(false);
+    frmintro::fiche.decharge();
+    valeurs::lecteur f{plateforme::fichier_donnees("backlash.ini")};
+    const double az = f.nombre();
+    const double alt = f.nombre();
+    piloting::backlashaz = az;
+    piloting::backlashalt = alt;
+}
+
+// ---- modes
+
+void prend_le_port(int controle) {
+    Out32(registre_controle, controle);
+    Out32(registre_donnees, 0);
+}
+
+void mode_ordinateur() {
+    prend_le_port(controle_ordinateur);
+    Timer.marche(false);
+}
+
+// Every working panel, in the order in which paddle mode closes them.
+void decharge_panneaux() {
+    frmaltazpilot::fiche.decharge();
+    frmequapilot::fiche.decharge();
+}
+
+void mode_raquette() {
+    prend_le_port(controle_raquette);
+    cmd_moteur::baselinepaddle = 0;
+    decharge_panneaux();
+    Timer.marche(true);
+}
+
+void mode_equatorial() {
+    barequa.visible(true);
+    baraltaz.visible(false);
+    frmaltazpilot::fiche.decharge();
+    heuretimer.marche(false);
+}
+
+void montre_barre_altaz() {
+    baraltaz.visible(true);
+    barequa.visible(false);
+}
+
+void decharge_equatorial() { frmequapilot::fiche.decharge(); }
+
+// The menu's way in starts the clock itself and leaves the choice bar and `panneaualtaz` alone.
+void mode_altazimutal_par_menu() {
+    montre_barre_altaz();
+    heuretimer.marche(true);
+    decharge_equatorial();
+}
+
+void mode_altazimutal_par_barre() {
+    montre_barre_altaz();
+    pointing::panneaualtaz = true;
+    decharge_equatorial();
+}
+
+void pilote(shell::panneau& panneau) {
+    panneau.montre();
+    Timer.marche(false);
+}
+
+// ---- the hidden general bar
+
+void general_ordinateur() {
+    mode_ordinateur();
+    bargeneral_boutons(3).actif(true);
+    bargeneral_boutons(4).actif(true);
+    mnutelescope.actif(true);
+    fiche.maximise(true);
+}
+
+void general_raquette() {
+    prend_le_port(controle_raquette);
+    cmd_moteur::baselinepaddle = 0;
+    bargeneral_boutons(3).actif(false);
+    bargeneral_boutons(4).actif(false);
+    baraltaz.visible(false);
+    barequa.visible(false);
+    decharge_panneaux();
+    mnutelescope.actif(false);
+    fiche.maximise(false);
+    fiche.hauteur(8000);
+    fiche.largeur(11000);
+    Timer.marche(true);
+}
+
+void general_altazimutal() {
+    barequa.visible(false);
+    baraltaz.visible(true);
+    decharge_equatorial();
+    pointing::panneaualtaz = true;
+}
+
+void quitte() {
+    Out32(registre_controle, controle_libre);
+    plateforme::termine(0);
+}
+
+void branche_barres() {
+    barchoix_boutons(1).au_clic([] {
+        mode_equatorial();
+        barchoix.visible(false);
+    });
+    barchoix_boutons(2).au_clic([] {
+        mode_altazimutal_par_barre();
+        barchoix.visible(false);
+        tracking::suiviouvert = false;
+    });
+
+    barequa_boutons(1).au_clic(mode_ordinateur);
+    barequa_boutons(2).au_clic(mode_raquette);
+    barequa_boutons(3).au_clic([] { pilote(frmequapilot::fiche); });
+
+    baraltaz_boutons(1).au_clic(mode_ordinateur);
+    baraltaz_boutons(2).au_clic(mode_raquette);
+    baraltaz_boutons(3).au_clic([] { pilote(frmaltazpilot::fiche); });
+
+    bargeneral_boutons(1).au_clic(general_ordinateur);
+    bargeneral_boutons(2).au_clic(general_raquette);
+    bargeneral_boutons(3).au_clic(mode_equatorial);
+    bargeneral_boutons(4).au_clic(general_altazimutal);
+    bargeneral_boutons(6).au_clic([] { plateforme::courante.vue->message("not available yet"); });
+}
+
+void branche_menu() {
+    Quitter.au_clic(quitte);
+    Equatorial.au_clic(mode_equatorial);
+    mnupilotageequa.au_clic([] { frmequapilot::fiche.montre(); });
+    altazimutal.au_clic(mode_altazimutal_par_menu);
+    mnupilotagealtaz.au_clic([] { frmaltazpilot::fiche.montre(); });
+    mnuparaaltaz.au_clic([] { mnusuivi.actif(true); });
+}
+
+} // namespace
+
+void branche() {
+    fiche.au_chargement(charge);
+    branche_barres();
+    branche_menu();
+}
+
+} // namespace frminterface
