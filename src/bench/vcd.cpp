@@ -8,7 +8,9 @@
 namespace banc {
 namespace {
 
-constexpr std::size_t taille_tampon = 65536;
+// One page: a few microseconds of writing now and then, where a large buffer would hold a half-pulse up for
+// twenty-five.
+constexpr std::size_t taille_tampon = 4096;
 constexpr std::array<const char*, 8> noms{"pas_alt", "sens_alt", "pas_az", "sens_az", "d4", "d5", "d6", "d7"};
 constexpr char premiere_marque = '!'; // of the data lines, by bit
 constexpr char marque_controle = ')';

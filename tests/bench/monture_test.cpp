@@ -138,6 +138,13 @@ TEST(Cadence, FollowsAStartAndAStop) {
     EXPECT_DOUBLE_EQ(pendant(19, 0), 20.0);
     EXPECT_EQ(pendant(25, 0), 0.0);
 
+    for (int i = 0; i < 20; ++i) // 2 pulses a second, then 4 seconds at 1.25
+        pendant(9, 0), pendant(1, 1);
+    for (int i = 0; i < 5; ++i)
+        pendant(15, 0), pendant(1, 1);
+    EXPECT_DOUBLE_EQ(pendant(1, 0), 1.25);
+    EXPECT_EQ(pendant(60, 0), 0.0);
+
     EXPECT_EQ(c.mesure(total, t - 3600 * 1000 * ms), 0.0); // a clock set back
     EXPECT_EQ(pendant(1, 10), 0.0);
     EXPECT_DOUBLE_EQ(pendant(1, 10), 200.0);
