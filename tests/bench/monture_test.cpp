@@ -1,0 +1,168 @@
+#include "bench/monture.h"
+#include "bench/port_simule.h"
+
+#include <gtest/gtest.h>
+#include <limits>
+
+namespace {
+
+using banc::axe;
+using banc::impulsions;
+using banc::monture;
+
+constexpr std::int64_t ms = 1'000'000;
+
+TEST(Monture, CountsRisingEdgesByDirection) {
+    struct {
+        const char* quoi;
+        std::vector<int> octets;
+        impulsions attendues;
+    } const cas[] = {
+        {"the first byte rises from nothing", {4}, {1, 0, 0, 0}},
+        {"two pulses each way in azimuth", {8, 12, 8, 12, 0, 4, 0, 4}, {2, 2, 0, 0}},
+        {"two pulses each way in altitude", {2, 3, 2, 3, 0, 1, 0, 1}, {0, 0, 2, 2}},
+        {"a step line held high is one edge", {12, 12, 12}, {0, 1, 0, 0}},
+        {"a direction that changes under a high step line is none", {4, 12, 4, 1, 3}, {1, 0, 1, 0}},
+        {"both step lines in one byte", {5, 0, 15}, {1, 1, 1, 1}},
+        {"one line falls while the other rises", {4, 1, 4, 1}, {2, 0, 2, 0}},
+        {"a direction alone moves nothing, nor do the free lines", {8, 2, 10, 240, 0}, {0, 0, 0, 0}},
+        {"the direction of the other axis does not matter", {6, 0, 9}, {1, 0, 1, 0}},
+    };
+    for (const auto& c : cas) {
+        SCOPED_TRACE(c.quoi);
+        monture m;
+        for (const int o : c.octets)
+            m.recoit(static_cast<std::uint8_t>(o));
+        EXPECT_TRUE(m.compte() == c.attendues)
+            << m.compte().az0 << ' ' << m.compte().az8 << ' ' << m.compte().alt0 << ' ' << m.compte().alt2;
+    }
+}
+
+TEST(Monture, OnlyTheDataRegisterMovesIt) {
+    monture m;
+    banc::port_simule port(m);
+    port.ecrit(890, 11);
+    ASSERT_TRUE(port.presente(26));
+    EXPECT_TRUE(m.compte() == impulsions{});
+    port.ecrit(888, 1);
+    EXPECT_TRUE(m.compte() == (impulsions{0, 0, 1, 0}));
+}
+
+void avance(monture& m, int octet, int n) {
+    for (int i = 0; i < n; ++i) {
+        m.recoit(0);
+        m.recoit(static_cast<std::uint8_t>(octet));
+    }
+}
+
+TEST(Monture, AnglesFollowTheEdgesFromWhereItWasSet) {
+    monture m;
+    avance(m, 4, 10);
+    avance(m, 12, 3);
+    avance(m, 3, 5);
+    EXPECT_DOUBLE_EQ(m.position(0.5, 2.0).az, 3.5);
+    EXPECT_DOUBLE_EQ(m.position(0.5, 2.0).alt, -10.0);
+
+    m.pose(3600.0, 162000.0);
+    EXPECT_EQ(m.position(0.5, 2.0).az, 3600.0);
+    EXPECT_EQ(m.position(7.0, 9.0).alt, 162000.0); // steps before do not come back with another unit
+    avance(m, 12, 4);
+    avance(m, 1, 1);
+    EXPECT_DOUBLE_EQ(m.position(0.5, 2.0).az, 3598.0);
+    EXPECT_DOUBLE_EQ(m.position(0.5, 2.0).alt, 162002.0);
+}
+
+TEST(Monture, ClearingTheCountsMovesNeitherLinesNorAngles) {
+    monture m;
+    avance(m, 4, 6);
+    m.zero();
+    EXPECT_TRUE(m.compte() == impulsions{});
+    EXPECT_TRUE(m.total() == (impulsions{6, 0, 0, 0}));
+    EXPECT_DOUBLE_EQ(m.position(1.0, 1.0).az, 6.0);
+    m.recoit(4); // the line was left high: no edge
+    EXPECT_TRUE(m.compte() == impulsions{});
+    avance(m, 12, 2);
+    EXPECT_TRUE(m.compte() == (impulsions{0, 2, 0, 0}));
+    EXPECT_DOUBLE_EQ(m.position(1.0, 1.0).az, 4.0);
+}
+
+TEST(Monture, TheUnitOfAStepIsNeverAFailure) {
+    EXPECT_DOUBLE_EQ(banc::unite(360.0, 200.0), 9.0); // 648000 / 72000
+    EXPECT_DOUBLE_EQ(banc::unite(-324.0, 200.0), -10.0);
+    const double infini = std::numeric_limits<double>::infinity();
+    EXPECT_EQ(banc::unite(0.0, 200.0), 0.0);
+    EXPECT_EQ(banc::unite(360.0, 0.0), 0.0);
+    EXPECT_EQ(banc::unite(1e-200, 1e-200), 0.0);
+    EXPECT_EQ(banc::unite(infini, 0.0), 0.0);
+}
+
+// The rate shown, once settled, for a motion of `par_seconde` evenly spaced pulses looked at every `pas_ms`.
+void attend_cadence(double par_seconde, int pas_ms, double tolerance) {
+    SCOPED_TRACE(par_seconde);
+    banc::cadence c;
+    for (std::int64_t t = 0; t <= 12'000 * ms; t += pas_ms * ms) {
+        const auto total = static_cast<std::uint64_t>(par_seconde * static_cast<double>(t) / 1e9);
+        const double vue = c.mesure(total, t);
+        if (t >= 5000 * ms) {
+            ASSERT_NEAR(vue, par_seconde, par_seconde * tolerance) << "at " << t / ms << " ms";
+        }
+    }
+}
+
+TEST(Cadence, IsSteadyForSlowAndFastMotions) {
+    attend_cadence(0.5, 100, 0.05);
+    attend_cadence(1.0, 70, 0.08);
+    attend_cadence(15.04, 100, 0.06);
+    attend_cadence(300.0, 50, 0.02);
+    attend_cadence(250'000.0, 50, 1e-4);
+    attend_cadence(250'000.0, 1, 1e-4);
+}
+
+TEST(Cadence, FollowsAStartAndAStop) {
+    banc::cadence c;
+    std::int64_t t = 0;
+    std::uint64_t total = 700; // what went before is no rate
+    const auto pendant = [&](int pas, std::uint64_t chacun) {
+        double vue = 0.0;
+        for (int i = 0; i < pas; ++i)
+            vue = c.mesure(total += chacun, t += 50 * ms);
+        return vue;
+    };
+    EXPECT_EQ(pendant(10, 0), 0.0);
+    EXPECT_EQ(pendant(1, 1), 0.0); // one pulse is no motion
+    EXPECT_DOUBLE_EQ(pendant(8, 1000), 20'000.0);
+    EXPECT_DOUBLE_EQ(pendant(8, 50), 1000.0);
+    EXPECT_EQ(pendant(7, 0), 0.0);
+
+    EXPECT_DOUBLE_EQ((pendant(1, 20), pendant(19, 0), pendant(1, 20)), 20.0); // bursts, one a second
+    EXPECT_DOUBLE_EQ(pendant(19, 0), 20.0);
+    EXPECT_EQ(pendant(25, 0), 0.0);
+
+    for (int i = 0; i < 20; ++i) // 2 pulses a second, then 4 seconds at 1.25
+        pendant(9, 0), pendant(1, 1);
+    for (int i = 0; i < 5; ++i)
+        pendant(15, 0), pendant(1, 1);
+    EXPECT_DOUBLE_EQ(pendant(1, 0), 1.25);
+    EXPECT_EQ(pendant(60, 0), 0.0);
+
+    EXPECT_EQ(c.mesure(total, t - 3600 * 1000 * ms), 0.0); // a clock set back
+    EXPECT_EQ(pendant(1, 10), 0.0);
+    EXPECT_DOUBLE_EQ(pendant(1, 10), 200.0);
+}
+
+TEST(Cadence, OfAnAxisCountsBothDirectionsAndNotTheOtherAxis) {
+    monture m;
+    for (int i = 0; i <= 20; ++i) {
+        const std::int64_t t = i * 100 * ms;
+        EXPECT_EQ(m.cadence(axe::altitude, t), 0.0);
+        const double az = m.cadence(axe::azimut, t);
+        if (i >= 2) {
+            EXPECT_DOUBLE_EQ(az, 1000.0);
+        }
+        avance(m, i % 2 == 0 ? 4 : 12, 100);
+        if (i == 10)
+            m.zero();
+    }
+}
+
+} // namespace
