@@ -19,8 +19,9 @@ struct epreuve {
     double charge_max;    // promised processor load, %; 100 = none promised
 };
 
+// The longest first: the margin learnt there is then small enough for the shorter ones to sleep as well.
 constexpr epreuve epreuves[] = {
-    {10'000, 5000, 2, 100}, {100'000, 2000, 2, 100}, {1'000'000, 1000, 2, 15}, {10'000'000, 200, 2, 5}};
+    {10'000'000, 200, 2, 5}, {1'000'000, 1000, 2, 15}, {100'000, 2000, 2, 100}, {10'000, 5000, 2, 100}};
 
 struct mesure {
     double mediane = 0, centile99 = 0, pire = 0; // us

@@ -42,6 +42,10 @@ void attente_precise::attend(std::int64_t ns) {
         dort_jusque(reveil);
         maintenant = horloge_monotone();
         marge_.apprend(maintenant - reveil);
+    } else if (ns > marge_de_reveil::minimum) {
+        // Watched from end to end, which teaches nothing; but a margin left wide by a busy moment must come
+        // down, or waits shorter than it would never sleep again.
+        marge_.apprend(0);
     }
     while (maintenant < fin)
         maintenant = horloge_monotone();

@@ -41,15 +41,18 @@ class attente_precise {
     /// Asks the kernel for a timer slack of 1 ns on the calling thread, which must be the one that waits.
     attente_precise();
 
-    /// Returns `ns` nanoseconds after it was called, or later, never sooner. 0 or less returns at once. Each
-    /// wait is measured from its own beginning: a late one is not made up by a hurried one, since a motor
-    /// without feedback loses steps when hurried.
+    /// Returns `ns` nanoseconds after it was called, or later, never sooner. 0 or less returns at once. A
+    /// wait no longer than the margin does not sleep. Each wait is measured from its own beginning: a late
+    /// one is not made up by a hurried one, since a motor without feedback loses steps when hurried.
     void attend(std::int64_t ns);
 
     /// The worst lateness of a wait since the start or since `oublie_retard`, in nanoseconds; 0 if none
     /// waited.
     std::int64_t pire_retard() const { return pire_retard_; }
     void oublie_retard() { pire_retard_ = 0; }
+
+    /// The margin before a deadline as learnt so far, in nanoseconds.
+    std::int64_t marge() const { return marge_.valeur(); }
 
   private:
     marge_de_reveil marge_;

@@ -105,6 +105,17 @@ TEST(Attente, AsksForATimerSlackOfOneNanosecond) {
     }}.join();
 }
 
+TEST(Attente, AWideMarginComesDownUnderWaitsItKeepsFromSleeping) {
+    attente_precise attente;
+    const auto au_debut = attente.marge();
+    for (int i = 0; i < 50; ++i)
+        attente.attend(marge_de_reveil::minimum / 2);
+    EXPECT_EQ(attente.marge(), au_debut) << "the shortest waits never sleep and have no say";
+    for (int i = 0; i < 50; ++i)
+        attente.attend(50'000);
+    EXPECT_LT(attente.marge(), au_debut * 97 / 100); // (1023 / 1024) ^ 50 = 0.952
+}
+
 TEST(Marge, FollowsTheLatenessWithinItsBounds) {
     const struct {
         const char* nom;
