@@ -1,0 +1,12 @@
+// The full program on the bench: nothing needs to be connected.
+#include "platform/linux/horloge_systeme.h"
+#include "platform/qt/lance.h"
+#include "principaux/provisoire.h"
+
+int main(int argc, char** argv) {
+    provisoire::port_muet port;
+    plateforme::horloge_systeme horloge;
+    return plateforme::qt::lance(
+        argc, argv,
+        {.port = port, .horloge = horloge, .attente = provisoire::attend, .icone = "velmoria-banc"});
+}
