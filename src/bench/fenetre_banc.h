@@ -1,0 +1,52 @@
+// The bench's own window: what comes out of the port, and what a mount would make of it.
+#pragma once
+
+#include "bench/etabli.h"
+
+#include <QWidget>
+#include <array>
+
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+namespace banc {
+
+class cadran;
+class voyants;
+
+class fenetre_banc final : public QWidget {
+  public:
+    /// `e` must outlive the window.
+    explicit fenetre_banc(etabli& e);
+    /// Brings every figure up to date; runs ten times a second by itself.
+    void rafraichit();
+
+  protected:
+    void timerEvent(QTimerEvent*) override;
+
+  private:
+    struct ligne { // one axis
+        QLabel* cadence = nullptr;
+        QLabel* zero = nullptr; // pulses with the direction line low
+        QLabel* leve = nullptr; // and raised
+        QLabel* angle = nullptr;
+        QLabel* cru = nullptr; // the position the program believes
+    };
+    QWidget* fait_lignes_du_port();
+    QWidget* fait_axes();
+    QWidget* fait_mesures();
+    void bascule_enregistrement();
+
+    etabli& etabli_;
+    voyants* voyants_ = nullptr;
+    QLabel* registres_ = nullptr;
+    std::array<ligne, 2> axes_;
+    std::array<cadran*, 2> cadrans_{};
+    QLabel* retard_ = nullptr;
+    QLineEdit* chemin_ = nullptr;
+    QPushButton* enregistre_ = nullptr;
+    QLabel* etat_ = nullptr;
+};
+
+} // namespace banc

@@ -1,0 +1,34 @@
+// The windows of panels: the main frame with its bars, child windows, the splash.
+#pragma once
+
+#include "shell/panneau.h"
+
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <memory>
+#include <vector>
+
+namespace plateforme::qt {
+
+/// A panel's window and what was made for its controls, by their rank; null where nothing is.
+struct fenetre {
+    shell::panneau* fiche = nullptr;
+    QWidget* cadre = nullptr;
+    std::vector<QObject*> pieces;
+    QMdiArea* zone = nullptr; ///< of the main frame: where child windows live
+};
+
+/// Makes a panel's window, hidden. `zone` holds the child windows; null for the main frame and the splash.
+std::unique_ptr<fenetre> cree_fenetre(shell::panneau& p, QMdiArea* zone);
+
+/// Caption, size, shown or hidden, as the store has them; all controls too when it comes on screen.
+void accorde_fenetre(fenetre& f);
+
+/// Brings a shown window to the front.
+void avance(fenetre& f);
+
+/// Paints it before it returns, on screen also where the window system maps windows in its own time.
+void peint(fenetre& f);
+
+} // namespace plateforme::qt
