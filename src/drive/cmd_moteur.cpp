@@ -16,6 +16,7 @@ struct axe {
     int pas;  // its step line
     int sens; // its direction line
 };
+constexpr int controle_raquette = 11;
 constexpr axe azimut{4, 8};
 constexpr axe altitude{1, 2};
 
@@ -104,6 +105,12 @@ void fixesens() {
     dirige(impaire(cmdsens) != static_cast<bool>(a == &azimut ? invaz : invalt));
     if (a)
         sensplus = bitsens == (a == &azimut ? azplus : altplus);
+}
+
+void port_a_la_raquette() {
+    Out32(plateforme::registre_controle, controle_raquette);
+    Out32(registre_donnees, 0);
+    baselinepaddle = 0;
 }
 
 void fixesensdirect() { dirige(!impaire(cmdsens)); }

@@ -43,4 +43,7 @@ void pasequa();
 void rafaleaz();
 void rafalealt();
 
+/// Gives the port to the hand paddle: control register 11, data register and `baselinepaddle` 0.
+void port_a_la_raquette();
+
 } // namespace cmd_moteur

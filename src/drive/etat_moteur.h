@@ -35,6 +35,9 @@ inline booleen16 vitchange;  ///< a speed slider was moved since the program sta
 inline entier32 compteaz; ///< steps since they were last folded into the position, signed
 inline entier32 comptealt;
 
+inline entier32 pasencodeaz; ///< steps of all paddle loops since a counting button cleared them
+inline entier32 pasencodealt;
+
 inline entier16 baselinepaddle; ///< what the program believes it last put on the data register
 
 /// Delay counts by class + 5 x axis (0 azimuth, 1 altitude).

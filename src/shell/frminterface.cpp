@@ -1,18 +1,22 @@
 #include "shell/frminterface.h"
 
 #include "base/nombre.h"
-#include "drive/etat_moteur.h"
+#include "drive/cmd_moteur.h"
 #include "piloting/frmaltazpilot_champs.h"
 #include "piloting/frmequapilot_champs.h"
 #include "piloting/jeu.h"
 #include "platform/image.h"
 #include "platform/plateforme.h"
 #include "pointing/etat_pointage.h"
+#include "settings/etat_suivi.h"
+#include "settings/frmconfig_champs.h"
+#include "settings/frmequaconfig_champs.h"
 #include "settings/valeurs.h"
 #include "settings/vitesses.h"
+#include "shell/frmcoord_champs.h"
 #include "shell/frminterface_champs.h"
 #include "shell/frmintro_champs.h"
-#include "tracking/etat_suivi.h"
+#include "tracking/frmaltazsuivi_champs.h"
 
 namespace frminterface {
 
@@ -23,7 +27,6 @@ using plateforme::registre_donnees;
 namespace {
 
 constexpr int controle_ordinateur = 1;
-constexpr int controle_raquette = 11;
 constexpr int controle_libre = 0;
 
 // ---- start-up
@@ -64,25 +67,23 @@ void charge() {
 
 // ---- modes
 
-void prend_le_port(int controle) {
-    Out32(registre_controle, controle);
-    Out32(registre_donnees, 0);
-}
-
 void mode_ordinateur() {
-    prend_le_port(controle_ordinateur);
+    Out32(registre_controle, controle_ordinateur);
+    Out32(registre_donnees, 0);
     Timer.marche(false);
 }
 
 // Every working panel, in the order in which paddle mode closes them.
 void decharge_panneaux() {
     frmaltazpilot::fiche.decharge();
+    frmaltazsuivi::fiche.decharge();
+    frmconfig::fiche.decharge();
     frmequapilot::fiche.decharge();
+    frmequaconfig::fiche.decharge();
 }
 
 void mode_raquette() {
-    prend_le_port(controle_raquette);
-    cmd_moteur::baselinepaddle = 0;
+    cmd_moteur::port_a_la_raquette();
     decharge_panneaux();
     Timer.marche(true);
 }
@@ -91,6 +92,9 @@ void mode_equatorial() {
     barequa.visible(true);
     baraltaz.visible(false);
     frmaltazpilot::fiche.decharge();
+    frmaltazsuivi::fiche.decharge();
+    frmconfig::fiche.decharge();
+    frmcoord::fiche.decharge();
     heuretimer.marche(false);
 }
 
@@ -99,11 +103,15 @@ void montre_barre_altaz() {
     barequa.visible(false);
 }
 
-void decharge_equatorial() { frmequapilot::fiche.decharge(); }
+void decharge_equatorial() {
+    frmequapilot::fiche.decharge();
+    frmequaconfig::fiche.decharge();
+}
 
 // The menu's way in starts the clock itself and leaves the choice bar and `panneaualtaz` alone.
 void mode_altazimutal_par_menu() {
     montre_barre_altaz();
+    frmcoord::fiche.montre();
     heuretimer.marche(true);
     decharge_equatorial();
 }
@@ -111,7 +119,19 @@ void mode_altazimutal_par_menu() {
 void mode_altazimutal_par_barre() {
     montre_barre_altaz();
     pointing::panneaualtaz = true;
+    frmcoord::fiche.montre();
     decharge_equatorial();
+}
+
+// Hidden, the panel stays loaded: clock and position go on.
+void bascule_coordonnees() {
+    if (coordvisible == true) {
+        frmcoord::fiche.cache();
+        coordvisible = false;
+    } else {
+        frmcoord::fiche.montre();
+        coordvisible = true;
+    }
 }
 
 void pilote(shell::panneau& panneau) {
@@ -130,8 +150,7 @@ void general_ordinateur() {
 }
 
 void general_raquette() {
-    prend_le_port(controle_raquette);
-    cmd_moteur::baselinepaddle = 0;
+    cmd_moteur::port_a_la_raquette();
     bargeneral_boutons(3).actif(false);
     bargeneral_boutons(4).actif(false);
     baraltaz.visible(false);
@@ -147,6 +166,7 @@ void general_raquette() {
 void general_altazimutal() {
     barequa.visible(false);
     baraltaz.visible(true);
+    frmcoord::fiche.montre();
     decharge_equatorial();
     pointing::panneaualtaz = true;
 }
@@ -170,10 +190,13 @@ void branche_barres() {
     barequa_boutons(1).au_clic(mode_ordinateur);
     barequa_boutons(2).au_clic(mode_raquette);
     barequa_boutons(3).au_clic([] { pilote(frmequapilot::fiche); });
+    barequa_boutons(5).au_clic([] { frmequaconfig::fiche.montre(); });
 
     baraltaz_boutons(1).au_clic(mode_ordinateur);
     baraltaz_boutons(2).au_clic(mode_raquette);
     baraltaz_boutons(3).au_clic([] { pilote(frmaltazpilot::fiche); });
+    baraltaz_boutons(6).au_clic([] { frmconfig::fiche.montre(); });
+    baraltaz_boutons(7).au_clic(bascule_coordonnees);
 
     bargeneral_boutons(1).au_clic(general_ordinateur);
     bargeneral_boutons(2).au_clic(general_raquette);
@@ -186,9 +209,13 @@ void branche_menu() {
     Quitter.au_clic(quitte);
     Equatorial.au_clic(mode_equatorial);
     mnupilotageequa.au_clic([] { frmequapilot::fiche.montre(); });
+    mnuparaequa.au_clic([] { frmequaconfig::fiche.montre(); });
     altazimutal.au_clic(mode_altazimutal_par_menu);
     mnupilotagealtaz.au_clic([] { frmaltazpilot::fiche.montre(); });
-    mnuparaaltaz.au_clic([] { mnusuivi.actif(true); });
+    mnuparaaltaz.au_clic([] {
+        frmconfig::fiche.montre();
+        mnusuivi.actif(true);
+    });
 }
 
 } // namespace

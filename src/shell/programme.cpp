@@ -7,11 +7,22 @@
 #include "piloting/frmequapilot_champs.h"
 #include "piloting/jeu.h"
 #include "pointing/etat_pointage.h"
+#include "settings/etat_suivi.h"
+#include "settings/frmconfig.h"
+#include "settings/frmconfig_champs.h"
+#include "settings/frmequaconfig.h"
+#include "settings/frmequaconfig_champs.h"
+#include "shell/frmcoord.h"
+#include "shell/frmcoord_champs.h"
 #include "shell/frminterface.h"
 #include "shell/frminterface_champs.h"
 #include "shell/frmintro_champs.h"
+#include "sky/almanach.h"
+#include "sky/conversion.h"
+#include "sky/heure.h"
 #include "sky/position.h"
-#include "tracking/etat_suivi.h"
+#include "sky/temps_sideral.h"
+#include "tracking/frmaltazsuivi_champs.h"
 
 namespace programme {
 
@@ -24,37 +35,85 @@ std::vector<shell::panneau*> panneaux() {
     frmintro::fiche.construit(frmintro::controles());
     frmaltazpilot::fiche.construit(frmaltazpilot::controles());
     frmequapilot::fiche.construit(frmequapilot::controles());
+    frmcoord::fiche.construit(frmcoord::controles());
+    frmconfig::fiche.construit(frmconfig::controles());
+    frmequaconfig::fiche.construit(frmequaconfig::controles());
+    frmaltazsuivi::fiche.construit(frmaltazsuivi::controles());
 
     frminterface::branche();
     frmaltazpilot::branche();
     frmequapilot::branche();
+    frmcoord::branche();
+    frmconfig::branche();
+    frmequaconfig::branche();
 
-    return {&frminterface::fiche, &frmintro::fiche, &frmaltazpilot::fiche, &frmequapilot::fiche};
+    return {&frminterface::fiche, &frmintro::fiche,  &frmaltazpilot::fiche, &frmequapilot::fiche,
+            &frmcoord::fiche,     &frmconfig::fiche, &frmequaconfig::fiche, &frmaltazsuivi::fiche};
 }
 
 #define VARIABLE(module, nom) shell::nomme(#nom, module::nom)
 
 std::vector<shell::variable> variables() {
     return {
-        VARIABLE(cmd_moteur, cmdsens),      VARIABLE(cmd_moteur, bitpas),
-        VARIABLE(cmd_moteur, bitsens),      VARIABLE(cmd_moteur, sensplus),
-        VARIABLE(cmd_moteur, azplus),       VARIABLE(cmd_moteur, azmoins),
-        VARIABLE(cmd_moteur, altplus),      VARIABLE(cmd_moteur, altmoins),
-        VARIABLE(cmd_moteur, invaz),        VARIABLE(cmd_moteur, invalt),
-        VARIABLE(cmd_moteur, classevitaz),  VARIABLE(cmd_moteur, classevitalt),
-        VARIABLE(cmd_moteur, tempopas),     VARIABLE(cmd_moteur, tempopaddle),
-        VARIABLE(cmd_moteur, vitchange),    VARIABLE(cmd_moteur, compteaz),
-        VARIABLE(cmd_moteur, comptealt),    VARIABLE(cmd_moteur, baselinepaddle),
-        VARIABLE(cmd_moteur, vitessealtaz), VARIABLE(cmd_moteur, vitesseequa),
-        VARIABLE(cmd_moteur, vitessemanu),  VARIABLE(cmd_moteur, nbpasaz),
-        VARIABLE(cmd_moteur, nbpasalt),     VARIABLE(cmd_moteur, tempoaz),
-        VARIABLE(cmd_moteur, tempoalt),     VARIABLE(cmd_moteur, nbpassuivi),
-        VARIABLE(general, posaz),           VARIABLE(general, posalt),
-        VARIABLE(general, angpasaz),        VARIABLE(general, angpasalt),
-        VARIABLE(general, ecartaz),         VARIABLE(general, ecartalt),
-        VARIABLE(piloting, backlashaz),     VARIABLE(piloting, backlashalt),
-        VARIABLE(pointing, panneaualtaz),   VARIABLE(pointing, stoppointage),
-        VARIABLE(tracking, suiviouvert),    VARIABLE(frminterface, coordvisible),
+        VARIABLE(cmd_moteur, cmdsens),
+        VARIABLE(cmd_moteur, bitpas),
+        VARIABLE(cmd_moteur, bitsens),
+        VARIABLE(cmd_moteur, sensplus),
+        VARIABLE(cmd_moteur, azplus),
+        VARIABLE(cmd_moteur, azmoins),
+        VARIABLE(cmd_moteur, altplus),
+        VARIABLE(cmd_moteur, altmoins),
+        VARIABLE(cmd_moteur, invaz),
+        VARIABLE(cmd_moteur, invalt),
+        VARIABLE(cmd_moteur, classevitaz),
+        VARIABLE(cmd_moteur, classevitalt),
+        VARIABLE(cmd_moteur, tempopas),
+        VARIABLE(cmd_moteur, tempopaddle),
+        VARIABLE(cmd_moteur, vitchange),
+        VARIABLE(cmd_moteur, compteaz),
+        VARIABLE(cmd_moteur, comptealt),
+        VARIABLE(cmd_moteur, baselinepaddle),
+        VARIABLE(cmd_moteur, vitessealtaz),
+        VARIABLE(cmd_moteur, vitesseequa),
+        VARIABLE(cmd_moteur, vitessemanu),
+        VARIABLE(cmd_moteur, nbpasaz),
+        VARIABLE(cmd_moteur, nbpasalt),
+        VARIABLE(cmd_moteur, tempoaz),
+        VARIABLE(cmd_moteur, tempoalt),
+        VARIABLE(cmd_moteur, nbpassuivi),
+        VARIABLE(general, posaz),
+        VARIABLE(general, posalt),
+        VARIABLE(general, angpasaz),
+        VARIABLE(general, angpasalt),
+        VARIABLE(general, ecartaz),
+        VARIABLE(general, ecartalt),
+        VARIABLE(piloting, backlashaz),
+        VARIABLE(piloting, backlashalt),
+        VARIABLE(pointing, panneaualtaz),
+        VARIABLE(pointing, stoppointage),
+        VARIABLE(tracking, suiviouvert),
+        VARIABLE(tracking, objetchoisi),
+        VARIABLE(cmd_moteur, pasencodeaz),
+        VARIABLE(cmd_moteur, pasencodealt),
+        VARIABLE(general, decalageheure),
+        VARIABLE(general, chemindate),
+        VARIABLE(general, indicejour),
+        VARIABLE(general, jouralm),
+        VARIABLE(general, heurealm),
+        VARIABLE(general, minutealm),
+        VARIABLE(general, secondealm),
+        VARIABLE(general, tsg0),
+        VARIABLE(general, tslsec),
+        VARIABLE(general, latrad),
+        VARIABLE(general, adrad),
+        VARIABLE(general, decrad),
+        VARIABLE(general, hautrad),
+        VARIABLE(general, hautdeg),
+        VARIABLE(general, azbrut),
+        VARIABLE(general, azdeg),
+        VARIABLE(general, decdeg),
+        VARIABLE(general, adheures),
+        VARIABLE(frminterface, coordvisible),
     };
 }
 

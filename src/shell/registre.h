@@ -34,6 +34,7 @@ struct registre {
 inline std::string texte_de(double x) { return base::texte(x); }
 inline std::string texte_de(base::entier16 n) { return base::texte(n); }
 inline std::string texte_de(base::entier32 n) { return base::texte(n); }
+inline std::string texte_de(const std::string& t) { return t; }
 inline std::string texte_de(base::booleen16 b) { return std::to_string(b.valeur()); }
 
 template <class T> variable nomme(std::string nom, const T& v) {

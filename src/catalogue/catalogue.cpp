@@ -1,0 +1,107 @@
+#include "catalogue/catalogue.h"
+
+#include "platform/plateforme.h"
+#include "settings/valeurs.h"
+
+#include <string_view>
+#include <utility>
+
+namespace catalogue {
+
+using base::entier32;
+using plateforme::fichier_donnees;
+
+namespace {
+
+using mot = std::pair<std::string_view, const char*>;
+
+constexpr std::array<mot, 6> types = {{{"GL", "GALAXIE"},
+                                       {"OC", "AMAS OUVERT"},
+                                       {"GC", "AMAS GLOBULAIRE"},
+                                       {"DN", "NEBULEUSE DIFFUSE"},
+                                       {"PN", "NEBULEUSE PLANETAIRE"},
+                                       {"ST", "GROUPE D'ETOILES"}}};
+
+constexpr std::array<mot, 16> lettres = {{{"DELTA", "d"},
+                                          {"UPSILON", "u"},
+                                          {"MU", "m"},
+                                          {"GAMMA", "g"},
+                                          {"EPSILON", "e"},
+                                          {"ETA", "h"},
+                                          {"ZETA", "z"},
+                                          {"PHI", "f"},
+                                          {"RHO", "r"},
+                                          {"KAPPA", "k"},
+                                          {"TAU", "t"},
+                                          {"THETA", "q"},
+                                          {"IOTA", "i"},
+                                          {"SIGMA", "s"},
+                                          {"PI", "p"},
+                                          {"CHI", "c"}}};
+
+template <std::size_t N>
+std::string cherche(const std::array<mot, N>& mots, std::string_view cle, const char* sinon) {
+    for (const auto& [nom, valeur] : mots)
+        if (nom == cle)
+            return valeur;
+    return sinon;
+}
+
+} // namespace
+
+std::vector<astre> lit(const std::string& fichier, std::size_t limite) {
+    std::vector<astre> astres;
+    valeurs::lecteur f{fichier_donnees(fichier)};
+    while (!f.fini()) {
+        if (astres.size() == limite)
+            base::fatale(base::cause::indice, fichier + ", objet " + std::to_string(limite + 1));
+        auto& a = astres.emplace_back();
+        a.nom = f.texte_entre_guillemets();
+        a.code = f.texte_entre_guillemets();
+        a.ad = f.nombre();
+        a.dec = f.nombre();
+    }
+    return astres;
+}
+
+std::vector<trait> lit_traits() {
+    std::vector<trait> traits;
+    valeurs::lecteur f{fichier_donnees("vconst.cat")};
+    while (!f.fini()) {
+        const entier32 de = f.nombre32();
+        traits.push_back({de, f.nombre32()});
+    }
+    return traits;
+}
+
+std::string constellation(const std::string& code) {
+    std::string trouve;
+    valeurs::lecteur f{fichier_donnees("const.cat")};
+    while (!f.fini()) {
+        const auto lu = f.texte_entre_guillemets();
+        auto nom = f.texte_entre_guillemets();
+        if (lu == code)
+            trouve = std::move(nom);
+    }
+    return trouve;
+}
+
+std::string nom_type(const std::string& code) { return cherche(types, code, ""); }
+
+std::string lettregrecque(const std::string& nom) { return cherche(lettres, nom, " "); }
+
+std::filesystem::path photographie(const std::string& nom) {
+    return fichier_donnees("Objets/" + nom + ".jpg");
+}
+
+bool a_photographie(const std::string& nom) {
+    std::error_code erreur;
+    return std::filesystem::file_size(photographie(nom), erreur) != static_cast<std::uintmax_t>(-1);
+}
+
+partie partage(entier32 coordonnee) {
+    const entier32 entiers = coordonnee / 600;
+    return {entiers, (coordonnee - entiers * 600).reel() / 10};
+}
+
+} // namespace catalogue

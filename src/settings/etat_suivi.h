@@ -1,0 +1,11 @@
+// What the panels of the settings and the main frame share with the tracking panel.
+#pragma once
+
+#include "base/entier.h"
+
+namespace tracking {
+
+inline base::booleen16 suiviouvert; ///< the tracking panel is open
+inline base::booleen16 objetchoisi; ///< an object was chosen to be tracked
+
+} // namespace tracking

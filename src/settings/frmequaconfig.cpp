@@ -1,0 +1,34 @@
+#include "settings/frmequaconfig.h"
+
+#include "platform/plateforme.h"
+#include "settings/champs_fichier.h"
+#include "settings/frmequaconfig_champs.h"
+#include "settings/mode_raquette.h"
+
+namespace frmequaconfig {
+
+namespace {
+
+const char* const fichier = "config_equa.ini";
+const std::array<shell::champ_texte*, 4> champs = {&txtpasad, &txtpasdec, &txtRad, &txtRdec};
+
+void charge() {
+    fiche.largeur(3960);
+    fiche.hauteur(3525);
+    reglages::lit(fichier, champs);
+}
+
+void enregistre_et_ferme() {
+    reglages::ecrit(fichier, champs);
+    fiche.decharge();
+}
+
+} // namespace
+
+void branche() {
+    fiche.au_chargement(charge);
+    cmdbacklash.au_clic(reglages::mesure_jeu);
+    bFin.au_clic(enregistre_et_ferme);
+}
+
+} // namespace frmequaconfig

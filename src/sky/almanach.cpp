@@ -1,0 +1,50 @@
+#include "sky/almanach.h"
+
+#include "base/nombre.h"
+#include "platform/plateforme.h"
+#include "settings/valeurs.h"
+#include "shell/frmcoord_champs.h"
+
+namespace general {
+
+using base::entier16;
+using base::entier32;
+
+namespace {
+
+// Folder names, without the accents of the month list.
+constexpr std::array<const char*, 12> dossiers = {"janvier",   "fevrier", "mars",     "avril",
+                                                  "mai",       "juin",    "juillet",  "aout",
+                                                  "septembre", "octobre", "novembre", "decembre"};
+
+void choisit_dossier(int mois, int annee) {
+    if (annee == 2000 || annee == 2001)
+        chemindate = "date/" + std::to_string(annee);
+    else
+        plateforme::courante.vue->message("choix de l'année non valide");
+    if (mois >= 1 && mois <= 12)
+        chemindate += std::string{"/"} + dossiers[static_cast<std::size_t>(mois - 1)];
+}
+
+void lit_mois(const std::string& nom) {
+    valeurs::lecteur f{plateforme::fichier_donnees(nom), valeurs::separateurs::virgule_ou_blanc};
+    for (indicejour = 1; !f.fini(); ++indicejour)
+        for (auto* colonne : {&jouralm, &heurealm, &minutealm, &secondealm})
+            base::element(*colonne, indicejour.valeur(), nom) = f.nombre16();
+}
+
+} // namespace
+
+void lit_almanach() {
+    const auto jour = static_cast<std::size_t>(frmcoord::cbjour.position() + 1);
+    const int mois = frmcoord::cbmois.position() + 1;
+    const int annee = frmcoord::cbannee.position() + 2000;
+    choisit_dossier(mois, annee);
+    lit_mois(chemindate + "/sg0.txt");
+    // The minutes are multiplied in 16 bits.
+    tsg0 = entier32{heurealm[jour]} * 3600 + entier32{minutealm[jour] * entier16{60}} +
+           entier32{secondealm[jour]};
+    frmcoord::txtessai.ecrit(tsg0);
+}
+
+} // namespace general

@@ -1,0 +1,46 @@
+#include "sky/heure.h"
+
+#include "shell/frmcoord_champs.h"
+#include "sky/almanach.h"
+
+namespace general {
+
+using base::entier16;
+using base::entier32;
+
+double ecritheure(int heure) {
+    frmcoord::txth.ecrit(entier16{heure});
+    const double lue = frmcoord::txth.nombre();
+    if (lue == 0)
+        frmcoord::txth.ecrit(entier16{24} - decalageheure);
+    else if (lue == 1)
+        frmcoord::txth.ecrit(decalageheure == 1 ? "0" : "23");
+    else
+        frmcoord::txth.ecrit(entier16{heure} - decalageheure);
+    return lue;
+}
+
+void synchro_heure() {
+    const auto t = plateforme::maintenant();
+    if (ecritheure(t.heure) == 0) {
+        frmcoord::cbjour.position(t.jour - 2);
+        lit_almanach();
+    }
+    frmcoord::txtmin.ecrit(entier16{t.minute});
+    frmcoord::txts.ecrit(entier16{t.seconde});
+}
+
+void ecritdate(const plateforme::instant& date) {
+    frmcoord::cbjour.position(date.jour - 1);
+    frmcoord::cbmois.position(date.mois - 1);
+    frmcoord::cbannee.position(date.annee - 2000);
+}
+
+void passe_minuit() {
+    if (frmcoord::txth.nombre() != 0 || frmcoord::txtmin.nombre() != 0 || frmcoord::txts.nombre() != 0)
+        return;
+    ecritdate(plateforme::maintenant());
+    lit_almanach();
+}
+
+} // namespace general

@@ -1,0 +1,111 @@
+#include "catalogue/catalogue.h"
+#include "echec.h"
+#include "machine_essai.h"
+
+namespace {
+
+using base::cause;
+using base::entier32;
+using essais::attend_echec;
+using essais::machine_essai;
+
+std::string objets(std::size_t n) {
+    std::string t;
+    for (std::size_t i = 1; i <= n; ++i)
+        t += "X" + std::to_string(i) + ",GL,1,2\r\n";
+    return t;
+}
+
+TEST(catalogue, enregistrements) {
+    const machine_essai m;
+    m.fichier("ic.cat", "\"Gamma, dite la Belle\" , GL,3305,-7500\r\nM 1,DN\r\n2.5,-3.5,\"é\",ST,1,2");
+    catalogue::table<catalogue::objets_panneau, entier32> panneau;
+    EXPECT_EQ(catalogue::charge("ic.cat", panneau),
+              (std::vector<std::string>{"Gamma, dite la Belle", "M 1", "é"}));
+    EXPECT_EQ(panneau.nombre, 3);
+    EXPECT_EQ(panneau.codes[1], "DN");
+    EXPECT_EQ(panneau.dec[0], -7500);
+    EXPECT_EQ(panneau.ad[1], 2) << "a panel rounds, ties to the even number";
+    EXPECT_EQ(panneau.dec[1], -4);
+    catalogue::table<catalogue::objets_carte, double> carte;
+    catalogue::charge("ic.cat", carte);
+    EXPECT_EQ(carte.ad[1], 2.5) << "the chart keeps a fraction";
+    EXPECT_EQ(carte.dec[1], -3.5);
+}
+
+TEST(catalogue, limites) {
+    const machine_essai m;
+    for (const std::size_t limite : {catalogue::etoiles_panneau, catalogue::objets_panneau,
+                                     catalogue::etoiles_carte, catalogue::objets_carte}) {
+        m.fichier("ngc3.cat", objets(limite));
+        EXPECT_EQ(catalogue::lit("ngc3.cat", limite).size(), limite);
+        m.fichier("ngc3.cat", objets(limite + 1));
+        const auto detail = attend_echec(cause::indice, [&] { catalogue::lit("ngc3.cat", limite); });
+        EXPECT_NE(detail.find("ngc3.cat"), std::string::npos);
+        EXPECT_NE(detail.find(std::to_string(limite + 1)), std::string::npos);
+    }
+    m.fichier("ngc3.cat", objets(2) + "X3,GL,1");
+    attend_echec(cause::fin_de_fichier, [] { catalogue::lit("ngc3.cat", 10); });
+    attend_echec(cause::fichier_introuvable, [] { catalogue::lit("ngc8.cat", 10); });
+}
+
+TEST(catalogue, fichiers_livres) {
+    const machine_essai m;
+    EXPECT_EQ(catalogue::lit("messier.cat", catalogue::objets_panneau).size(), 110u);
+    for (const auto& e : catalogue::entrees)
+        for (const auto& a : catalogue::lit(e.fichier, catalogue::objets_panneau)) {
+            EXPECT_TRUE(a.ad >= 0 && a.ad < 14400 && a.dec >= -54000 && a.dec <= 54000)
+                << e.fichier << " " << a.nom;
+            EXPECT_EQ(catalogue::nom_type(a.code).empty(), std::string{e.fichier} == "5magstar.cat") << a.nom;
+        }
+    EXPECT_GE(catalogue::lit("5magstar.cat", catalogue::etoiles_panneau).size(), 36u);
+    const auto etoiles = catalogue::lit("vstar.cat", catalogue::etoiles_carte);
+    for (const auto& e : etoiles)
+        EXPECT_NE(catalogue::constellation(e.code), "") << e.code;
+    for (const auto& t : catalogue::lit_traits())
+        EXPECT_TRUE(t.de >= 0 && t.a >= 0 && t.de < static_cast<int>(etoiles.size()) &&
+                    t.a < static_cast<int>(etoiles.size()));
+}
+
+TEST(catalogue, noms) {
+    const machine_essai m;
+    EXPECT_EQ(catalogue::constellation("And"), "Andromède");
+    EXPECT_EQ(catalogue::constellation("and"), "");
+    m.fichier("const.cat", "And,Un\r\nOri,Orion\r\nAnd,\"Deux, vraiment\"\r\n");
+    EXPECT_EQ(catalogue::constellation("And"), "Deux, vraiment");
+
+    const std::pair<const char*, const char*> lettres[] = {
+        {"DELTA", "d"}, {"UPSILON", "u"}, {"MU", "m"},   {"GAMMA", "g"}, {"EPSILON", "e"}, {"ETA", "h"},
+        {"ZETA", "z"},  {"PHI", "f"},     {"RHO", "r"},  {"KAPPA", "k"}, {"TAU", "t"},     {"THETA", "q"},
+        {"IOTA", "i"},  {"SIGMA", "s"},   {"PI", "p"},   {"CHI", "c"},   {"ALPHA", " "},   {"BETA", " "},
+        {"delta", " "}, {"", " "},        {"OMEGA", " "}};
+    for (const auto& [nom, lettre] : lettres)
+        EXPECT_EQ(catalogue::lettregrecque(nom), lettre) << nom;
+
+    EXPECT_EQ(catalogue::nom_type("DN"), "NEBULEUSE DIFFUSE");
+    EXPECT_EQ(catalogue::nom_type("XX"), "");
+}
+
+TEST(catalogue, photographies) {
+    const machine_essai m;
+    m.fichier("Objets/M 31.jpg", "");
+    std::filesystem::create_directory(m.donnees / "Objets/M1.jpg");
+    EXPECT_TRUE(catalogue::a_photographie("M 31")) << "an empty file counts";
+    for (const char* nom : {"M31", "m 31", "M1", "", "M 31.jpg"})
+        EXPECT_FALSE(catalogue::a_photographie(nom)) << nom;
+}
+
+TEST(catalogue, partage) {
+    const struct {
+        int coordonnee, entiers;
+        double minutes;
+    } cas[] = {{3305, 5, 30.5},   {-7500, -12, -30}, {-300, 0, -30},
+               {14399, 23, 59.9}, {600, 1, 0},       {-54000, -90, 0}};
+    for (const auto& c : cas) {
+        const auto p = catalogue::partage(c.coordonnee);
+        EXPECT_EQ(p.entiers, c.entiers) << c.coordonnee;
+        EXPECT_EQ(p.minutes, c.minutes) << c.coordonnee;
+    }
+}
+
+} // namespace

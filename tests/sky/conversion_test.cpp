@@ -1,0 +1,191 @@
+#include "echec.h"
+#include "machine_essai.h"
+#include "settings/frmconfig_champs.h"
+#include "shell/frmcoord_champs.h"
+#include "sky/affichage.h"
+#include "sky/almanach.h"
+#include "sky/conversion.h"
+#include "sky/position.h"
+#include "tracking/frmaltazsuivi_champs.h"
+
+#include <cmath>
+#include <fstream>
+#include <sstream>
+
+namespace {
+
+using base::cause;
+using essais::attend_echec;
+using essais::machine_essai;
+
+// Site and time of an instant at which the local sidereal time is so many seconds.
+void pose(const std::string& latitude, int tsl) {
+    for (auto* champ : {&frmcoord::txth, &frmcoord::txtmin, &frmcoord::txts, &frmcoord::txtms,
+                        &frmconfig::txtdegre, &frmconfig::txtmin, &frmconfig::txtlatmin})
+        champ->ecrit("0");
+    frmconfig::txtlatdeg.ecrit(latitude);
+    frmcoord::txtessai.ecrit(base::entier32{tsl});
+}
+
+void pose_objet(const std::string& h, const std::string& min, const std::string& signe,
+                const std::string& deg) {
+    frmconfig::Txtad_h.ecrit(h);
+    frmconfig::txtad_min.ecrit(min);
+    frmconfig::txtsign.ecrit(signe);
+    frmconfig::txtdec_deg.ecrit(deg);
+    frmconfig::txtdec_min.ecrit("0");
+}
+
+// Angle on the sky between the position and a place in degrees, arcseconds.
+double ecart(double az, double alt) {
+    const double daz = std::remainder(general::posaz - az * 3600, 1296000) * std::cos(alt * M_PI / 180);
+    return std::hypot(daz, general::posalt - alt * 3600);
+}
+
+std::vector<std::vector<std::string>> references() {
+    std::ifstream f{std::string{VELMORIA_ESSAIS} + "/sky/references_horizontales.csv"};
+    std::vector<std::vector<std::string>> toutes;
+    std::string ligne;
+    std::getline(f, ligne); // the source
+    std::getline(f, ligne); // the columns
+    while (std::getline(f, ligne)) {
+        std::istringstream l{ligne};
+        auto& champs = toutes.emplace_back();
+        for (std::string c; std::getline(l, c, ',');)
+            champs.push_back(c);
+    }
+    return toutes;
+}
+
+TEST(conversion, table_de_reference) {
+    const machine_essai m;
+    const auto toutes = references();
+    ASSERT_GT(toutes.size(), 100u);
+    frmcoord::fiche.charge();
+    for (const auto& r : toutes) {
+        ASSERT_EQ(r.size(), 21u);
+        frmcoord::cbannee.position(std::stoi(r[0]) - 2000);
+        frmcoord::cbmois.position(std::stoi(r[1]) - 1);
+        frmcoord::cbjour.position(std::stoi(r[2]) - 1);
+        shell::champ_texte* const champs[] = {
+            &frmcoord::txth,       &frmcoord::txtmin,     &frmcoord::txts,       &frmcoord::txtms,
+            &frmconfig::txtdegre,  &frmconfig::txtmin,    &frmconfig::txtlatdeg, &frmconfig::txtlatmin,
+            &frmconfig::Txtad_h,   &frmconfig::txtad_min, &frmconfig::txtsign,   &frmconfig::txtdec_deg,
+            &frmconfig::txtdec_min};
+        for (std::size_t i = 0; i < std::size(champs); ++i)
+            champs[i]->ecrit(r[3 + i]);
+        general::ecartaz = general::ecartalt = 7;
+        general::lit_almanach();
+        EXPECT_EQ(frmcoord::txtessai.lit(), r[16]);
+        general::calcul_altaz();
+        EXPECT_LT(ecart(std::stod(r[17]), std::stod(r[18])), 2) << testing::PrintToString(r);
+        EXPECT_LT(ecart(std::stod(r[19]), std::stod(r[20])), 8) << testing::PrintToString(r);
+        EXPECT_EQ(general::ecartaz, 0);
+        EXPECT_EQ(general::ecartalt, 0);
+    }
+}
+
+// The place computed from a position and shown on the panels is at that position at the same instant.
+TEST(conversion, aller_et_retour) {
+    const machine_essai m;
+    frmcoord::fiche.charge();
+    int essayees = 0;
+    for (const char* latitude : {"48.16", "5", "-33.5"})
+        for (double az = 3.7; az < 360; az += 8.9)
+            for (double alt = -72; alt < 85; alt += 12.7) {
+                pose(latitude, 0);
+                frmcoord::txth.ecrit("20");
+                general::posaz = az * 3600;
+                general::posalt = alt * 3600;
+                general::calcul_equa();
+                general::affiche_equa();
+                general::posaz = general::posalt = 0;
+                general::calcul_altaz();
+                EXPECT_LT(ecart(az, alt), 0.01) << latitude << " az " << az << " alt " << alt;
+                ++essayees;
+            }
+    EXPECT_GT(essayees, 1000);
+}
+
+// Every quadrant by the sense of the sky: at latitude 45 and declination 0, one hour either side of a
+// transit.
+TEST(conversion, quadrants) {
+    const machine_essai m;
+    frmcoord::fiche.charge();
+    const struct {
+        const char *ad_h, *ad_min, *signe, *deg;
+        double az_min, az_max;
+    } cas[] = {{"9", "59", "+", "0", 180, 181},    // a minute past the southern transit
+               {"10", "1", "+", "0", 179, 180},    // a minute before it
+               {"11", "0", "+", "70", 0, 90},      // north of the zenith, east
+               {"9", "0", "+", "70", 270, 360},    // and west
+               {"16", "30", "+", "20", 0, 90},     // rising in the north-east
+               {"3", "30", "+", "20", 270, 360},   // setting in the north-west
+               {"4", "30", " +", "20", 180, 270}}; // only exactly "+" is positive
+    for (const auto& c : cas) {
+        pose("45", 36000);
+        pose_objet(c.ad_h, c.ad_min, c.signe, c.deg);
+        general::calcul_altaz();
+        EXPECT_GT(general::azdeg, c.az_min) << c.ad_h << "h" << c.ad_min << " " << c.signe << c.deg;
+        EXPECT_LT(general::azdeg, c.az_max) << c.ad_h << "h" << c.ad_min << " " << c.signe << c.deg;
+    }
+}
+
+TEST(conversion, points_singuliers) {
+    const machine_essai m;
+    frmcoord::fiche.charge();
+    pose("45", 3600);
+    pose_objet("1", "0", "+", "45");
+    attend_echec(cause::division_par_zero, general::calcul_altaz); // at the zenith
+    pose("0", 3600);
+    pose_objet("4", "0", "+", "0");
+    attend_echec(cause::division_par_zero, general::calcul_altaz); // due east
+    pose("45", 3600);
+    pose_objet("1", "0", "+", "0");
+    general::calcul_altaz();
+    EXPECT_EQ(general::posaz, 0) << "an exact transit in the south is taken for the north";
+    EXPECT_NEAR(general::posalt, 45 * 3600, 1e-6);
+    frmcoord::txth.ecrit("1e308");
+    attend_echec(cause::depassement, general::calcul_altaz);
+}
+
+// The exact south is taken for the north, and only that one value.
+TEST(conversion, plein_sud) {
+    const machine_essai m;
+    frmcoord::fiche.charge();
+    pose("48", 0);
+    general::posalt = 108000;
+    general::posaz = 648000;
+    general::calcul_equa();
+    EXPECT_NEAR(general::decdeg, 90 - (48 - 30), 1e-6);
+    general::posaz = 648001;
+    general::calcul_equa();
+    EXPECT_NEAR(general::decdeg, 30 + 48 - 90, 1e-6);
+}
+
+TEST(conversion, affichage_equatorial) {
+    const machine_essai m;
+    const struct {
+        double ad, dec;
+        const char *h, *min, *signe, *deg, *minarc;
+    } cas[] = {{24.5, 0, "0", "30", "-", "0", "0"},
+               {-0.5, -12.5, "-1", "30", "-", "12", "30"},
+               {25.5, 0.25, "25", "30", "+", "0", "15"},
+               {5.125, -0.75, "5", "7.5", "-", "0", "45"}};
+    for (const auto& c : cas) {
+        general::adheures = c.ad;
+        general::decdeg = c.dec;
+        general::affiche_equa();
+        EXPECT_EQ(frmaltazsuivi::Txtad_h.lit(), c.h);
+        EXPECT_EQ(frmaltazsuivi::txtad_min.lit(), c.min);
+        EXPECT_EQ(frmaltazsuivi::txtsign.lit(), c.signe);
+        EXPECT_EQ(frmaltazsuivi::txtdec_deg.lit(), c.deg);
+        EXPECT_EQ(frmaltazsuivi::txtdec_min.lit(), c.minarc);
+        EXPECT_EQ(frmconfig::Txtad_h.lit() + " " + frmconfig::txtad_min.lit(),
+                  std::string{c.h} + " " + c.min);
+        EXPECT_EQ(frmconfig::txtsign.lit() + frmconfig::txtdec_deg.lit() + " " + frmconfig::txtdec_min.lit(),
+                  std::string{c.signe} + c.deg + " " + c.minarc);
+    }
+}
+
+} // namespace

@@ -1,0 +1,80 @@
+#include "echec.h"
+#include "machine_essai.h"
+#include "settings/frmconfig_champs.h"
+#include "shell/frmcoord_champs.h"
+#include "sky/math.h"
+
+#include <cmath>
+
+namespace {
+
+using base::cause;
+using essais::attend_echec;
+
+TEST(math, angles) {
+    EXPECT_EQ(math::radians(180), 3.14159265358979);
+    EXPECT_NE(math::radians(180), M_PI);
+    EXPECT_NEAR(math::sinusdeg(30), 0.5, 1e-14);
+    EXPECT_NEAR(math::cosinusdeg(120), -0.5, 1e-14);
+    EXPECT_EQ(math::adsecondes(5, 30.5), 19830);
+    EXPECT_NEAR(math::anglehoraire(3600, 0), 15 * M_PI / 180, 1e-14);
+    EXPECT_NEAR(math::anglehoraire(0, 3600), -15 * M_PI / 180, 1e-14);
+    EXPECT_NEAR(math::anglehoraire(172800, 0), 4 * M_PI, 1e-12) << "not reduced to a turn";
+}
+
+TEST(math, inverses) {
+    EXPECT_DOUBLE_EQ(math::arcsin(0.5), 0.5235987755982989);
+    EXPECT_DOUBLE_EQ(math::arcsin(-0.5), -0.5235987755982989);
+    EXPECT_NEAR(math::arccos(0.5), 1.0471975512, 1e-10);
+    EXPECT_NEAR(math::arccos(-0.5), -1.0471975512, 1e-10) << "the arccosine less pi";
+    EXPECT_EQ(math::arccos(1), 0);
+    attend_echec(cause::division_par_zero, [] { math::arcsin(1); });
+    attend_echec(cause::division_par_zero, [] { math::arcsin(-1); });
+    attend_echec(cause::racine_negative, [] { math::arcsin(1.0000000001); });
+    attend_echec(cause::division_par_zero, [] { math::arccos(0); });
+    attend_echec(cause::racine_negative, [] { math::arccos(-1.0000000001); });
+}
+
+TEST(math, degres_minutes_secondes) {
+    const essais::machine_essai m;
+    const struct {
+        double arcsec;
+        const char *deg, *min, *sec;
+    } cas[] = {{0, "0", "0", "0"},        {3599.6, "0", "59", "60"},   {-1, "-1", "59", "59"},
+               {648000, "180", "0", "0"}, {3661.5, "1", "1", "2"},     {3662.5, "1", "1", "2"},
+               {-3600, "-1", "0", "0"},   {1296000.4, "360", "0", "0"}};
+    for (const auto& c : cas) {
+        math::ecritdms(c.arcsec, frmcoord::txtcoordaz1, frmcoord::txtcoordaz2, frmcoord::txtcoordaz3);
+        EXPECT_EQ(frmcoord::txtcoordaz1.lit(), c.deg) << c.arcsec;
+        EXPECT_EQ(frmcoord::txtcoordaz2.lit(), c.min) << c.arcsec;
+        EXPECT_EQ(frmcoord::txtcoordaz3.lit(), c.sec) << c.arcsec;
+    }
+}
+
+TEST(math, angle_d_un_pas) {
+    const essais::machine_essai m;
+    const struct {
+        const char *pas, *rapport;
+        double angle;
+    } cas[] = {{"200", "144", 22.5},
+               {"200", "500", 6.48},
+               {"200", "2.5", 1620},
+               {"200", "3.5", 810},
+               {"400.5 pas", "100", 648.0 / 40.05}};
+    for (const auto& c : cas) {
+        frmconfig::txtpasaz.ecrit(c.pas);
+        frmconfig::txtRaz.ecrit(c.rapport);
+        frmconfig::txtpasalt.ecrit("200");
+        frmconfig::txtRalt.ecrit("1000");
+        EXPECT_NEAR(math::angleaz(), c.angle, 1e-11) << c.pas << ", " << c.rapport;
+        EXPECT_NEAR(math::anglealt(), 3.24, 1e-12);
+    }
+    frmconfig::txtRaz.ecrit("0.5");
+    attend_echec(cause::division_par_zero, [] { math::angleaz(); });
+    frmconfig::txtpasalt.ecrit("");
+    attend_echec(cause::division_par_zero, [] { math::anglealt(); });
+    frmconfig::txtRalt.ecrit("2147483648");
+    attend_echec(cause::depassement, [] { math::anglealt(); });
+}
+
+} // namespace
