@@ -214,7 +214,7 @@ void champ_liste::ajoute(const std::string& ligne) {
     dit(aspect::lignes);
 }
 
-void champ_liste::ajoute_lignes(std::vector<std::string> lignes) {
+void champ_liste::ajoute(std::vector<std::string> lignes) {
     auto& l = acces().lignes;
     l.insert(l.end(), std::make_move_iterator(lignes.begin()), std::make_move_iterator(lignes.end()));
     dit(aspect::lignes);

@@ -207,7 +207,7 @@ class champ_liste : public controle {
     int lignes();
     std::string ligne(int k);
     void ajoute(const std::string& ligne);
-    void ajoute_lignes(std::vector<std::string> lignes);
+    void ajoute(std::vector<std::string> lignes);
     void vide();
     void au_clic(std::function<void()> f);
     void au_double_clic(std::function<void()> f);

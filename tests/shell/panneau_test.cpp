@@ -89,7 +89,7 @@ TEST_F(Panneau, UnloadBringsBackTheDesign) {
     fiche.decharge();
     EXPECT_EQ(pris(), "") << "not loaded: nothing to do";
     texte.ecrit("autre");
-    liste_objets.ajoute_lignes({"a", "b"});
+    liste_objets.ajoute(std::vector<std::string>{"a", "b"});
     bouton.visible(false);
     fiche.largeur(999);
     fiche.legende("x");
@@ -181,7 +181,7 @@ TEST_F(Panneau, AStopActsAtThePressAndTheOthersAtTheRelease) {
 }
 
 TEST_F(Panneau, ListsKeepTheirPositionInRange) {
-    liste_objets.ajoute_lignes({"a", "b", "c"});
+    liste_objets.ajoute(std::vector<std::string>{"a", "b", "c"});
     pris();
     liste_objets.position(1);
     liste_objets.position(1);
@@ -204,7 +204,7 @@ TEST_F(Panneau, ListsKeepTheirPositionInRange) {
     attend_echec(cause::indice, [] { liste_objets.ligne(3); });
     liste_objets.vide();
     EXPECT_EQ(liste_objets.position(), -1);
-    annee.ajoute_lignes({"0", "1"});
+    annee.ajoute(std::vector<std::string>{"0", "1"});
     annee.position(1);
     attend_echec(cause::propriete, [] { annee.position(-1); });
     EXPECT_EQ(annee.position(), 1);
