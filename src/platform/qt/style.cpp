@@ -56,8 +56,8 @@ void habille(QApplication& application) {
     police.setPixelSize(hauteur_police);
     QApplication::setFont(police);
     application.setQuitOnLastWindowClosed(false);
-    for (const auto effet : {Qt::UI_AnimateMenu, Qt::UI_FadeMenu, Qt::UI_AnimateCombo,
-                             Qt::UI_AnimateTooltip, Qt::UI_FadeTooltip, Qt::UI_AnimateToolBox})
+    for (const auto effet : {Qt::UI_AnimateMenu, Qt::UI_FadeMenu, Qt::UI_AnimateCombo, Qt::UI_AnimateTooltip,
+                             Qt::UI_FadeTooltip, Qt::UI_AnimateToolBox})
         QApplication::setEffectEnabled(effet, false);
 }
 
