@@ -15,28 +15,28 @@ inline constinit panneau fiche{"frmequapilot", "Pilotage", largeur_fermee, 4800}
 inline constinit champ_cadre Frdeplacement{
     fiche, "Frdeplacement", {90, 60, 2490, 2550}, {.legende = "Déplacement"}};
 inline constinit champ_bouton cmdhh{
-    fiche, "cmdhh", {885, 300, 720, 720}, {.cadre = &Frdeplacement, .image = "fleche_haut"}};
+    fiche, "cmdhh", {885, 390, 720, 660}, {.cadre = &Frdeplacement, .image = "fleche_haut"}};
 inline constinit champ_bouton cmdag{
-    fiche, "cmdag", {135, 1050, 720, 720}, {.cadre = &Frdeplacement, .image = "fleche_gauche"}};
+    fiche, "cmdag", {135, 1080, 720, 660}, {.cadre = &Frdeplacement, .image = "fleche_gauche"}};
 inline constinit champ_bouton cmddstop{fiche,
                                        "cmddstop",
-                                       {885, 1050, 720, 720},
+                                       {885, 1080, 720, 660},
                                        {.cadre = &Frdeplacement, .image = "stop", .traits = arret | echap}};
 inline constinit champ_bouton cmdad{
-    fiche, "cmdad", {1635, 1050, 720, 720}, {.cadre = &Frdeplacement, .image = "fleche_droite"}};
+    fiche, "cmdad", {1635, 1080, 720, 660}, {.cadre = &Frdeplacement, .image = "fleche_droite"}};
 inline constinit champ_bouton cmdhb{
-    fiche, "cmdhb", {885, 1800, 720, 660}, {.cadre = &Frdeplacement, .image = "fleche_bas"}};
+    fiche, "cmdhb", {885, 1770, 720, 660}, {.cadre = &Frdeplacement, .image = "fleche_bas"}};
 
 inline constinit champ_cadre Frame2{
     fiche, "Frame2", {2640, 60, 3135, 2550}, {.legende = "Réglage des vitesses"}};
 inline constinit champ_etiquette Label5{
-    fiche, "Label5", {120, 300, 600, 375}, {.legende = "A.D", .cadre = &Frame2}};
+    fiche, "Label5", {120, 420, 600, 375}, {.legende = "A.D", .cadre = &Frame2}};
 inline constinit champ_curseur slaz{
-    fiche, "slaz", {690, 300, 1740, 390}, {.cadre = &Frame2, .max = 4, .valeur = 3}};
+    fiche, "slaz", {690, 420, 1740, 390}, {.cadre = &Frame2, .max = 4, .valeur = 3}};
 inline constinit champ_texte txtnumaz{
-    fiche, "txtnumaz", {2520, 300, 480, 375}, {.legende = "4", .cadre = &Frame2, .traits = centre}};
+    fiche, "txtnumaz", {2520, 420, 480, 375}, {.legende = "4", .cadre = &Frame2, .traits = centre}};
 inline constinit champ_texte txtv_az{
-    fiche, "txtv_az", {720, 765, 2280, 375}, {.legende = "IIIIIIIIII", .cadre = &Frame2}};
+    fiche, "txtv_az", {720, 885, 2280, 375}, {.legende = "IIIIIIIIII", .cadre = &Frame2}};
 inline constinit champ_etiquette Label6{
     fiche, "Label6", {120, 1500, 600, 375}, {.legende = "Déc.", .cadre = &Frame2}};
 inline constinit champ_curseur slalt{
@@ -48,15 +48,15 @@ inline constinit champ_texte txtv_alt{
 
 inline constinit champ_cadre Frame1{fiche, "Frame1", {90, 2670, 5685, 1110}, {.legende = "Suivi sidéral"}};
 inline constinit champ_bouton cmdgo{
-    fiche, "cmdgo", {120, 300, 720, 690}, {.cadre = &Frame1, .image = "marche"}};
+    fiche, "cmdgo", {120, 375, 720, 630}, {.cadre = &Frame1, .image = "marche"}};
 inline constinit champ_bouton cmdstopgo{
-    fiche, "cmdstopgo", {900, 300, 720, 690}, {.legende = "Stop", .cadre = &Frame1, .traits = arret}};
+    fiche, "cmdstopgo", {900, 375, 720, 630}, {.legende = "Stop", .cadre = &Frame1, .traits = arret}};
 inline constinit champ_etiquette Label4{
-    fiche, "Label4", {1740, 270, 1500, 270}, {.legende = "Suivi sidéral", .cadre = &Frame1}};
-inline constinit champ_texte txtpas{fiche, "txtpas", {1740, 585, 1740, 375}, {.cadre = &Frame1}};
-inline constinit champ_texte txtpas1{fiche, "txtpas1", {3540, 585, 600, 375}, {.cadre = &Frame1}};
-inline constinit champ_texte txtessai{fiche, "txtessai", {4200, 585, 720, 375}, {.cadre = &Frame1}};
-inline constinit champ_texte txts{fiche, "txts", {4980, 585, 540, 375}, {.cadre = &Frame1}};
+    fiche, "Label4", {1740, 330, 1500, 270}, {.legende = "Suivi sidéral", .cadre = &Frame1}};
+inline constinit champ_texte txtpas{fiche, "txtpas", {1740, 630, 1740, 375}, {.cadre = &Frame1}};
+inline constinit champ_texte txtpas1{fiche, "txtpas1", {3540, 630, 600, 375}, {.cadre = &Frame1}};
+inline constinit champ_texte txtessai{fiche, "txtessai", {4200, 630, 720, 375}, {.cadre = &Frame1}};
+inline constinit champ_texte txts{fiche, "txts", {4980, 630, 540, 375}, {.cadre = &Frame1}};
 inline constinit minuteur timersuivi{fiche, "timersuivi", {.intervalle = 100}};
 
 inline constinit champ_bouton Cmdquit{fiche, "Cmdquit", {90, 3840, 1500, 420}, {.legende = "Quitter"}};
@@ -94,7 +94,7 @@ inline constinit tableau<champ_texte, 5> tDc{fiche,
                                               {9630, 1740, 840, 375},
                                               {9630, 2220, 840, 375},
                                               {9630, 2700, 840, 375}}};
-inline constinit champ_bouton cmdvalid{fiche, "cmdvalid", {9270, 3330, 1200, 450}, {.legende = "Ok"}};
+inline constinit champ_bouton cmdvalid{fiche, "cmdvalid", {9270, 3840, 1200, 420}, {.legende = "Ok"}};
 
 inline std::vector<controle*> controles() {
     return liste(Frdeplacement, cmdhh, cmdag, cmddstop, cmdad, cmdhb, Frame2, Label5, slaz, txtnumaz, txtv_az,

@@ -14,8 +14,13 @@ class horloge_systeme final : public horloge {
         std::tm c{};
         clock_gettime(CLOCK_REALTIME, &t);
         localtime_r(&t.tv_sec, &c);
-        return {c.tm_year + 1900, c.tm_mon + 1, c.tm_mday, c.tm_hour,
-                c.tm_min,         c.tm_sec,     static_cast<int>(t.tv_nsec / 1'000'000)};
+        return {c.tm_year + 1900,
+                c.tm_mon + 1,
+                c.tm_mday,
+                c.tm_hour,
+                c.tm_min,
+                c.tm_sec,
+                static_cast<int>(t.tv_nsec / 1'000'000)};
     }
 };
 

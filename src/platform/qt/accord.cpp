@@ -148,7 +148,8 @@ void image(const controle& c, QObject* piece) {
     if (c.regarde_image().numero)
         w->montre(pixels_de(c.regarde_image()));
     else if (*c.comme_dessine().image)
-        w->montre(decor(c.comme_dessine().image, rectangle(c.regarde_place()).size(), w->devicePixelRatioF()));
+        w->montre(
+            decor(c.comme_dessine().image, rectangle(c.regarde_place()).size(), w->devicePixelRatioF()));
     else
         w->montre({});
 }

@@ -30,8 +30,8 @@ void boucle_qt::arme(shell::minuteur& m, int ms) {
 }
 
 void boucle_qt::desarme(shell::minuteur& m) {
-    const auto place = std::find_if(agenda_.begin(), agenda_.end(),
-                                    [&m](const rendez_vous& r) { return r.minuteur == &m; });
+    const auto place =
+        std::find_if(agenda_.begin(), agenda_.end(), [&m](const rendez_vous& r) { return r.minuteur == &m; });
     if (place == agenda_.end())
         return;
     killTimer(place->numero);
@@ -39,9 +39,8 @@ void boucle_qt::desarme(shell::minuteur& m) {
 }
 
 void boucle_qt::timerEvent(QTimerEvent* e) {
-    const auto place =
-        std::find_if(agenda_.begin(), agenda_.end(),
-                     [e](const rendez_vous& r) { return r.numero == e->timerId(); });
+    const auto place = std::find_if(agenda_.begin(), agenda_.end(),
+                                    [e](const rendez_vous& r) { return r.numero == e->timerId(); });
     if (place == agenda_.end())
         return;
     auto& m = *place->minuteur;

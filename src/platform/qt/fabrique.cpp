@@ -92,6 +92,7 @@ template <class W> QWidget* barre(champ_barre& c, QWidget* parent) {
     w->setRange(d.min, d.max);
     w->setSingleStep(d.petit);
     w->setPageStep(d.grand);
+    w->setInvertedControls(false); // else the right arrow moves a scroll bar to the left
     w->setFocusPolicy(Qt::StrongFocus);
     w->setContextMenuPolicy(Qt::NoContextMenu);
     if constexpr (std::is_same_v<W, QSlider>) {

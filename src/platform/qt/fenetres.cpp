@@ -77,12 +77,20 @@ void range(fenetre& f, const controle& c, QObject* piece) {
 // A control's frame was declared before it, so its widget is there already.
 void remplit(fenetre& f, QWidget* contenu) {
     for (auto* c : f.fiche->controles()) {
-        auto* parent = c->cadre() ? static_cast<QWidget*>(f.pieces[static_cast<std::size_t>(c->cadre()->rang())])
-                                  : contenu;
+        auto* parent = c->cadre()
+                           ? static_cast<QWidget*>(f.pieces[static_cast<std::size_t>(c->cadre()->rang())])
+                           : contenu;
         if (c->espece() != genre::entree)
             range(f, *c, fabrique(*c, parent));
     }
 }
+
+// A tool's text stands under its icon: a bubble that repeats it would only cost a repaint.
+class filtre_bulle final : public QObject {
+  public:
+    bool eventFilter(QObject*, QEvent* e) override { return e->type() == QEvent::ToolTip; }
+};
+filtre_bulle sans_bulle;
 
 QToolBar* barre_outils(QMainWindow& w, const controle& c) {
     constexpr int cote_icone = 24;
@@ -99,8 +107,8 @@ QToolBar* barre_outils(QMainWindow& w, const controle& c) {
 
 QAction* outil(QToolBar& barre, champ_outil& c) {
     auto* action = barre.addAction(icone(c.comme_dessine().valeur), affiche(c.regarde_texte()));
-    action->setToolTip({});
     auto* touche = barre.widgetForAction(action);
+    touche->installEventFilter(&sans_bulle);
     touche->setObjectName(affiche(c.nom()));
     touche->setAccessibleName(touche->objectName());
     QObject::connect(action, &QAction::triggered, action, [&c] { c.clic(); });
@@ -234,7 +242,7 @@ void accorde_fenetre(fenetre& f) {
 
 void avance(fenetre& f) {
     f.cadre->raise();
-    if (auto* sous = qobject_cast<QMdiSubWindow*>(f.cadre))
+    if (auto* sous = qobject_cast<QMdiSubWindow*>(f.cadre.data()))
         sous->mdiArea()->setActiveSubWindow(sous);
     else
         f.cadre->activateWindow();

@@ -6,6 +6,7 @@
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QPointer>
 #include <memory>
 #include <vector>
 
@@ -13,8 +14,13 @@ namespace plateforme::qt {
 
 /// A panel's window and what was made for its controls, by their rank; null where nothing is.
 struct fenetre {
+    fenetre() = default;
+    ~fenetre() { delete cadre; }
+    fenetre(const fenetre&) = delete;
+    fenetre& operator=(const fenetre&) = delete;
+
     shell::panneau* fiche = nullptr;
-    QWidget* cadre = nullptr;
+    QPointer<QWidget> cadre; ///< the main frame takes its child windows with it
     std::vector<QObject*> pieces;
     QMdiArea* zone = nullptr; ///< of the main frame: where child windows live
 };

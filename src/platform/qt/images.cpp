@@ -13,7 +13,7 @@ namespace plateforme::qt {
 namespace {
 
 std::map<std::filesystem::path, int> numeros;
-std::vector<QPixmap> chargees;
+std::vector<QImage> chargees;
 
 // A picture that states no density gets Qt's guess, which is the screen's.
 double densite(const QImage& i) {
@@ -36,12 +36,12 @@ image charge(const std::filesystem::path& chemin) {
     const auto [place, nouvelle] = numeros.try_emplace(chemin, static_cast<int>(chargees.size()) + 1);
     if (nouvelle)
         chargees.emplace_back();
-    chargees[static_cast<std::size_t>(place->second - 1)] = QPixmap::fromImage(lue);
+    chargees[static_cast<std::size_t>(place->second - 1)] = lue;
     return {place->second, lue.width(), lue.height(), densite(lue)};
 }
 
 QPixmap pixels_de(const image& i) {
-    return i.numero > 0 ? chargees[static_cast<std::size_t>(i.numero - 1)] : QPixmap{};
+    return i.numero > 0 ? QPixmap::fromImage(chargees[static_cast<std::size_t>(i.numero - 1)]) : QPixmap{};
 }
 
 QIcon icone(int indice) {

@@ -10,30 +10,42 @@
 #include <QApplication>
 #include <QIcon>
 
-// Called out of a namespace: Qt's rule for resources that live in a library.
+// Outside any namespace: Qt's rule for resources that live in a library.
 static void prend_les_images() { Q_INIT_RESOURCE(images); }
 
 namespace plateforme::qt {
 
-int lance(int argc, char** argv, const composition& c) {
+seance::seance(int argc, char** argv, composition c) : argc_(argc), c_(std::move(c)) {
     prepare();
-    QApplication application{argc, argv};
+    application_ = std::make_unique<QApplication>(argc_, argv);
     prend_les_images();
-    habille(application);
-    QApplication::setWindowIcon(QIcon{QString{":/%1.png"}.arg(c.icone)});
+    habille(*application_);
     QApplication::setApplicationName("Velmoria");
+    QApplication::setWindowIcon(QIcon{QString{":/%1.png"}.arg(c_.icone)});
 
-    vue_qt vue;
-    boucle_qt boucle{c.attente, c.apres_cession};
-    courante = {&c.port, &c.horloge, &boucle, &vue,
-                std::filesystem::path{QCoreApplication::applicationDirPath().toStdString()} / "data"};
+    boucle_ = std::make_unique<boucle_qt>(c_.attente, c_.apres_cession);
+    vue_ = std::make_unique<vue_qt>();
+    auto donnees = c_.donnees;
+    if (donnees.empty())
+        donnees = std::filesystem::path{QCoreApplication::applicationDirPath().toStdString()} / "data";
+    courante = {&c_.port, &c_.horloge, boucle_.get(), vue_.get(), donnees};
     base::installe_gestionnaire(echoue);
     programme::construit();
-    if (!c.avis.empty())
-        vue.message(c.avis);
+}
+
+seance::~seance() = default;
+
+void seance::demarre() {
+    if (!c_.avis.empty())
+        vue_->message(c_.avis);
     programme::demarre();
-    if (c.ensuite)
-        c.ensuite();
+    if (c_.ensuite)
+        c_.ensuite();
+}
+
+int lance(int argc, char** argv, composition c) {
+    seance s{argc, argv, std::move(c)};
+    s.demarre();
     fin(QApplication::exec());
 }
 

@@ -195,8 +195,8 @@ int code_touche(int cle) {
 
 void surface::keyPressEvent(QKeyEvent* e) {
     if (const int code = code_touche(e->key()))
-        champ_.frappe({code, e->modifiers().testFlag(Qt::ShiftModifier),
-                       e->modifiers().testFlag(Qt::ControlModifier)});
+        champ_.frappe(
+            {code, e->modifiers().testFlag(Qt::ShiftModifier), e->modifiers().testFlag(Qt::ControlModifier)});
     if (e->key() == Qt::Key_Escape)
         e->ignore();
 }

@@ -8,7 +8,8 @@ namespace plateforme::qt {
 
 namespace {
 
-// Fusion without its animations: a repaint while a motor runs is a late pulse.
+// Fusion without its animations, since a repaint while a motor runs is a late pulse, and with plain buttons
+// in its boxes.
 class style_calme final : public QProxyStyle {
   public:
     style_calme() : QProxyStyle(QStyleFactory::create("Fusion")) {}
@@ -17,6 +18,7 @@ class style_calme final : public QProxyStyle {
         switch (indice) {
         case SH_Widget_Animate:
         case SH_Widget_Animation_Duration:
+        case SH_DialogButtonBox_ButtonsHaveIcons:
             return 0;
         default:
             return QProxyStyle::styleHint(indice, option, widget, retour);
@@ -56,8 +58,8 @@ void habille(QApplication& application) {
     police.setPixelSize(hauteur_police);
     QApplication::setFont(police);
     application.setQuitOnLastWindowClosed(false);
-    for (const auto effet : {Qt::UI_AnimateMenu, Qt::UI_FadeMenu, Qt::UI_AnimateCombo,
-                             Qt::UI_AnimateTooltip, Qt::UI_FadeTooltip, Qt::UI_AnimateToolBox})
+    for (const auto effet : {Qt::UI_AnimateMenu, Qt::UI_FadeMenu, Qt::UI_AnimateCombo, Qt::UI_AnimateTooltip,
+                             Qt::UI_FadeTooltip, Qt::UI_AnimateToolBox})
         QApplication::setEffectEnabled(effet, false);
 }
 

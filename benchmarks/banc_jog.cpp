@@ -1,0 +1,136 @@
+// How fast a motor can be driven through the live windows, and how near a slow jog comes to its nominal
+// period. Needs a display; run it on the xcb platform.
+#include "drive/cmd_moteur.h"
+#include "piloting/frmaltazpilot_champs.h"
+#include "platform/linux/horloge_systeme.h"
+#include "platform/qt/boucle_qt.h"
+#include "platform/qt/lance.h"
+#include "principaux/provisoire.h"
+#include "shell/frminterface_champs.h"
+
+#include <QApplication>
+#include <QTimer>
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <vector>
+
+namespace {
+
+using clock_mono = std::chrono::steady_clock;
+
+constexpr int repetitions = 7;
+
+// Counts what goes through to the bench's port.
+class port_compte final : public plateforme::port {
+  public:
+    void ecrit(int adresse, std::uint8_t valeur) override {
+        ++ecritures;
+        dessous.ecrit(adresse, valeur);
+    }
+    std::uint8_t lit(int adresse) override { return dessous.lit(adresse); }
+    std::uint64_t ecritures = 0;
+
+  private:
+    provisoire::port_muet dessous;
+};
+
+double ecoule(clock_mono::time_point debut) {
+    return std::chrono::duration<double>(clock_mono::now() - debut).count();
+}
+
+double mediane(std::vector<double> v) {
+    std::sort(v.begin(), v.end());
+    return v[v.size() / 2];
+}
+
+struct course {
+    double secondes = 0;
+    double impulsions = 0;
+    double passes = 0;
+};
+
+// One jog to the right, started and stopped as an observer does, for about `ms` milliseconds.
+course jog(plateforme::qt::boucle_qt& boucle, port_compte& port, int compte, int ms) {
+    cmd_moteur::vitessealtaz.fill(cmd_moteur::entier32{compte});
+    QTimer::singleShot(ms, [] { frmaltazpilot::cmddstop.appuie(); });
+    const auto e = port.ecritures;
+    const auto p = boucle.passes();
+    const auto debut = clock_mono::now();
+    frmaltazpilot::cmdad.clic();
+    return {ecoule(debut), static_cast<double>(port.ecritures - e) / 2,
+            static_cast<double>(boucle.passes() - p)};
+}
+
+void vitesse(plateforme::qt::boucle_qt& boucle, port_compte& port) {
+    std::vector<double> cadences;
+    std::vector<double> parts;
+    for (int i = 0; i < repetitions; ++i) {
+        const auto c = jog(boucle, port, 0, 500);
+        cadences.push_back(c.impulsions / c.secondes);
+        parts.push_back(c.passes / c.impulsions);
+    }
+    const double cadence = mediane(cadences);
+    std::printf("jog, compte 0 : %.0f impulsions/s (médiane de %d), passes par impulsion %.4f à %.4f\n",
+                cadence, repetitions, *std::min_element(parts.begin(), parts.end()),
+                *std::max_element(parts.begin(), parts.end()));
+
+    constexpr int tours = 200'000;
+    std::vector<double> paires;
+    std::vector<double> vides;
+    for (int i = 0; i < repetitions; ++i) {
+        auto debut = clock_mono::now();
+        for (int k = 0; k < tours; ++k) {
+            plateforme::Out32(plateforme::registre_donnees, 8);
+            plateforme::Out32(plateforme::registre_donnees, 12);
+        }
+        paires.push_back(ecoule(debut) / tours);
+        debut = clock_mono::now();
+        for (int k = 0; k < tours; ++k)
+            QCoreApplication::processEvents(QEventLoop::AllEvents);
+        vides.push_back(ecoule(debut) / tours);
+    }
+    const double paire = mediane(paires);
+    const double passe = mediane(vides);
+    const double plancher = paire + 2 * passe;
+    std::printf(
+        "plancher : paire d'écritures %.0f ns, passe de la boucle %.0f ns, soit %.0f ns par impulsion "
+        "(%.0f/s)\n",
+        paire * 1e9, passe * 1e9, plancher * 1e9, 1 / plancher);
+    std::printf("au-dessus du plancher : %.0f ns par impulsion, %.2f fois\n", (1 / cadence - plancher) * 1e9,
+                1 / cadence / plancher);
+}
+
+void periode(plateforme::qt::boucle_qt& boucle, port_compte& port, int ms_par_attente) {
+    const auto compte = static_cast<int>(ms_par_attente * 1'000'000 / plateforme::ns_par_compte) - 1;
+    const double nominale = 2e-9 * static_cast<double>((compte + 1) * plateforme::ns_par_compte);
+    std::vector<double> rapports;
+    for (int i = 0; i < 5; ++i) {
+        const auto c = jog(boucle, port, compte, 1000);
+        rapports.push_back(c.secondes / c.impulsions / nominale);
+    }
+    std::printf("attente de %d ms : période moyenne / nominale %.5f (médiane de 5)\n", ms_par_attente,
+                mediane(rapports));
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    port_compte port;
+    plateforme::horloge_systeme horloge;
+    plateforme::qt::seance s{
+        argc, argv, {.port = port, .horloge = horloge, .attente = provisoire::attend, .donnees = DONNEES}};
+    s.demarre();
+    frminterface::altazimutal.clic();
+    frminterface::baraltaz_boutons(3).clic();
+    frminterface::Timer.marche(true);
+    frminterface::heuretimer.marche(true);
+    const auto debut = clock_mono::now();
+    while (ecoule(debut) < 0.5) // everything painted
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+
+    std::printf("plateforme %s\n", qPrintable(QGuiApplication::platformName()));
+    vitesse(s.boucle(), port);
+    periode(s.boucle(), port, 1);
+    periode(s.boucle(), port, 10);
+}

@@ -1,0 +1,96 @@
+// Every panel at every scale: all controls inside what their frame leaves, no text cut.
+#include "fenetres.h"
+
+#include "piloting/frmaltazpilot_champs.h"
+#include "piloting/frmequapilot_champs.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QStyle>
+#include <QStyleOptionGroupBox>
+#include <QToolBar>
+#include <QToolButton>
+
+namespace {
+
+class disposition : public essais::fenetres, public testing::WithParamInterface<const char*> {
+  protected:
+    disposition() : fenetres(GetParam()) {}
+
+    // What a frame leaves: all of it but its title and its edge.
+    static QRect interieur(const QWidget* w) {
+        const auto* cadre = qobject_cast<const QGroupBox*>(w);
+        if (!cadre)
+            return w->rect();
+        QStyleOptionGroupBox o;
+        o.initFrom(cadre);
+        o.text = cadre->title();
+        o.subControls = QStyle::SC_GroupBoxFrame | QStyle::SC_GroupBoxLabel;
+        return cadre->style()->subControlRect(QStyle::CC_GroupBox, &o, QStyle::SC_GroupBoxFrame, cadre);
+    }
+
+    static QSize place_du_texte(const QWidget* w) {
+        if (const auto* l = qobject_cast<const QLabel*>(w))
+            return {l->fontMetrics()
+                        .boundingRect(l->rect(), l->wordWrap() ? Qt::TextWordWrap : 0, l->text())
+                        .size()};
+        if (const auto* b = qobject_cast<const QPushButton*>(w); b && !b->text().isEmpty())
+            return b->fontMetrics().size(Qt::TextShowMnemonic, b->text()) + QSize{8, 4};
+        if (const auto* b = qobject_cast<const QAbstractButton*>(w); b && !b->text().isEmpty())
+            return b->sizeHint() - QSize{4, 4};
+        return {};
+    }
+
+    void verifie(const char* nom) {
+        for (const auto* c : fiche(nom).controles()) {
+            auto* w = piece(nom)->findChild<QWidget*>(QString::fromStdString(c->nom()));
+            if (!w)
+                continue;
+            const auto ou = std::string{nom} + "." + c->nom();
+            EXPECT_TRUE(interieur(w->parentWidget()).contains(w->geometry())) << ou;
+            EXPECT_EQ(w->accessibleName().toStdString(), c->nom());
+            const auto texte = place_du_texte(w);
+            EXPECT_LE(texte.width(), w->width()) << ou;
+            EXPECT_LE(texte.height(), w->height()) << ou;
+        }
+    }
+};
+
+TEST_P(disposition, child_windows) {
+    ASSERT_EQ(principale()->devicePixelRatioF(), std::atof(GetParam()));
+    for (auto* p : programme::registre().panneaux) {
+        if (p->options().principal || p->options().sans_bord)
+            continue;
+        p->montre();
+        if (p == &frmaltazpilot::fiche)
+            p->largeur(frmaltazpilot::largeur_ouverte);
+        if (p == &frmequapilot::fiche)
+            p->largeur(frmequapilot::largeur_ouverte);
+        verifie(std::string{p->nom()}.c_str());
+    }
+}
+
+TEST_P(disposition, toolbars_show_all_their_texts_and_icons) {
+    EXPECT_EQ(principale()->size(), QSize(1000, 733)); // 15000 x 11000 twips
+    for (auto* c : fiche("frminterface").controles())
+        if (c->espece() == shell::genre::barre_outils)
+            c->visible(true);
+    QTest::qWait(50);
+    for (const auto* c : fiche("frminterface").controles()) {
+        if (c->espece() != shell::genre::outil)
+            continue;
+        auto* w = static_cast<QToolButton*>(piece("frminterface", c->nom().c_str()));
+        EXPECT_TRUE(w->isVisible()) << c->nom();
+        EXPECT_FALSE(w->icon().isNull()) << c->nom();
+        EXPECT_TRUE(w->parentWidget()->rect().contains(w->geometry())) << c->nom();
+        EXPECT_GE(w->width(), w->fontMetrics().horizontalAdvance(w->text())) << c->nom();
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(echelles, disposition, testing::Values("1", "1.5", "2"), [](const auto& essai) {
+    return std::string{"s"} + std::to_string(static_cast<int>(std::atof(essai.param) * 100));
+});
+
+} // namespace

@@ -1,0 +1,16 @@
+#!/bin/sh
+# ecran.sh COMMAND...: runs it on a virtual display of its own and gives its exit status.
+numero=$(mktemp)
+Xvfb -displayfd 3 -screen 0 2400x1600x24 -nolisten tcp 3>"$numero" >/dev/null 2>&1 &
+serveur=$!
+trap 'kill $serveur 2>/dev/null; rm -f "$numero"' EXIT
+essais=0
+while [ ! -s "$numero" ]; do
+    essais=$((essais + 1))
+    if [ $essais -gt 200 ] || ! kill -0 $serveur 2>/dev/null; then
+        echo "ecran.sh : Xvfb ne démarre pas. Remède : sudo apt install xvfb" >&2
+        exit 1
+    fi
+    sleep 0.05
+done
+DISPLAY=:$(cat "$numero") QT_QPA_PLATFORM=xcb "$@"

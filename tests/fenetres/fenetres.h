@@ -1,0 +1,90 @@
+// For tests of the real windows: the program on a port that is watched, its widgets by their names.
+#pragma once
+
+#include "drive/etat_moteur.h"
+#include "platform/qt/boucle_qt.h"
+#include "platform/qt/lance.h"
+#include "platform/qt/vue_qt.h"
+#include "shell/programme.h"
+
+#include <QApplication>
+#include <QMdiSubWindow>
+#include <QTest>
+#include <QTimer>
+#include <gtest/gtest.h>
+#include <utility>
+#include <vector>
+
+namespace essais {
+
+/// Remembers all writes; may have something done once so many pulses have gone out.
+class port_temoin final : public plateforme::port {
+  public:
+    void ecrit(int adresse, std::uint8_t valeur) override {
+        ecritures.emplace_back(adresse, valeur);
+        if (adresse != plateforme::registre_donnees || (valeur & 5) == 0)
+            return;
+        ++impulsions;
+        while (!suite_.empty() && impulsions >= suite_.front().first) {
+            auto f = std::move(suite_.front().second);
+            suite_.erase(suite_.begin());
+            QTimer::singleShot(0, std::move(f)); // in the next yield, as an observer's act would
+        }
+    }
+    std::uint8_t lit(int) override { return 0; }
+
+    /// In the order of the pulses.
+    void apres(int n, std::function<void()> f) { suite_.emplace_back(n, std::move(f)); }
+
+    std::vector<std::pair<int, int>> ecritures;
+    int impulsions = 0;
+
+  private:
+    std::vector<std::pair<int, std::function<void()>>> suite_;
+};
+
+class horloge_arretee final : public plateforme::horloge {
+  public:
+    plateforme::instant maintenant() override { return {2001, 8, 15, 22, 0, 0, 0}; }
+};
+
+class fenetres : public testing::Test {
+  protected:
+    explicit fenetres(const char* echelle = "1") {
+        qputenv("QT_SCALE_FACTOR", echelle);
+        static char nom[] = "essais";
+        static char* arguments[] = {nom, nullptr};
+        s = std::make_unique<plateforme::qt::seance>(
+            1, arguments,
+            plateforme::qt::composition{
+                .port = port, .horloge = horloge, .attente = [](std::int64_t) {}, .donnees = DONNEES});
+    }
+
+    void SetUp() override {
+        s->demarre();
+        principale()->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(principale()));
+    }
+
+    QWidget* principale() { return s->vue().principale(); }
+
+    /// A widget by its name in the window of a panel; the panel's own for no name.
+    QWidget* piece(const char* fiche, const char* nom = nullptr) {
+        auto* f =
+            principale()->objectName() == fiche ? principale() : principale()->findChild<QWidget*>(fiche);
+        auto* w = !f || !nom ? f : f->findChild<QWidget*>(nom);
+        if (!w)
+            ADD_FAILURE() << "no widget " << fiche << (nom ? "." : "") << (nom ? nom : "");
+        return w;
+    }
+
+    void clique(const char* fiche, const char* nom) { QTest::mouseClick(piece(fiche, nom), Qt::LeftButton); }
+
+    shell::panneau& fiche(const char* nom) { return *programme::registre().trouve_panneau(nom); }
+
+    port_temoin port;
+    horloge_arretee horloge;
+    std::unique_ptr<plateforme::qt::seance> s;
+};
+
+} // namespace essais
