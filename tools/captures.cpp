@@ -1,0 +1,127 @@
+// Screenshots of every window, for the README, the help pages and whoever changes a panel:
+// velmoria-captures DATA FOLDER. Plays on the bench, with a private copy of the data.
+#include "bench/fenetre_banc.h"
+#include "drive/etat_moteur.h"
+#include "piloting/frmaltazpilot_champs.h"
+#include "piloting/frmequapilot_champs.h"
+#include "platform/linux/attente_precise.h"
+#include "platform/linux/horloge_systeme.h"
+#include "platform/qt/lance.h"
+#include "platform/qt/mesures.h"
+#include "platform/qt/vue_qt.h"
+#include "shell/frminterface_champs.h"
+#include "shell/programme.h"
+
+#include <QApplication>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QTimer>
+#include <cstdio>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// A night inside the almanac's years.
+class horloge_fixe final : public plateforme::horloge {
+  public:
+    plateforme::instant maintenant() override { return {2000, 8, 15, 22, 30, 12, 0}; }
+};
+
+class photographe {
+  public:
+    photographe(QWidget* principale, fs::path dossier) : principale_(principale), dossier_(std::move(dossier)) {}
+
+    void prend(QWidget* w, const std::string& nom) const {
+        for (int i = 0; i < 5; ++i)
+            QApplication::processEvents();
+        const auto chemin = dossier_ / (nom + ".png");
+        if (!w->grab().save(QString::fromStdString(chemin.string())))
+            std::fprintf(stderr, "%s: not written\n", chemin.c_str());
+    }
+    void prend_panneau(const shell::panneau& p, const std::string& nom) const {
+        for (auto* f : principale_->findChildren<QMdiSubWindow*>())
+            if (f->objectName() == plateforme::qt::affiche(p.nom()))
+                prend(f, nom);
+    }
+    // The MDI windows side by side, so that none hides another.
+    void place(const shell::panneau& p, int x, int y) const {
+        for (auto* f : principale_->findChildren<QMdiSubWindow*>())
+            if (f->objectName() == plateforme::qt::affiche(p.nom()))
+                f->move(x, y);
+    }
+
+  private:
+    QWidget* principale_;
+    fs::path dossier_;
+};
+
+void chaque_panneau(const photographe& photo) {
+    for (auto* p : programme::registre().panneaux) {
+        if (p->options().principal || p->options().sans_bord)
+            continue;
+        p->montre();
+        photo.prend_panneau(*p, std::string{p->nom()});
+        p->decharge();
+    }
+    frmaltazpilot::fiche.montre();
+    frmaltazpilot::lblvit.clic();
+    photo.prend_panneau(frmaltazpilot::fiche, "frmaltazpilot-ouvert");
+    frmaltazpilot::fiche.decharge();
+    frmequapilot::fiche.montre();
+    frmequapilot::lblvit.clic();
+    photo.prend_panneau(frmequapilot::fiche, "frmequapilot-ouvert");
+    frmequapilot::fiche.decharge();
+}
+
+void en_mouvement(const photographe& photo, QWidget* principale, banc::fenetre_banc& banc) {
+    frminterface::barchoix_boutons(2).clic();
+    photo.prend(principale, "altazimutal");
+    frminterface::baraltaz_boutons(3).clic();
+    photo.place(frmaltazpilot::fiche, 30, 210);
+    QTimer::singleShot(2500, [&] {
+        banc.rafraichit();
+        photo.prend(&banc, "banc");
+        photo.prend(principale, "pilotage");
+        frmaltazpilot::cmddstop.clic();
+    });
+    frmaltazpilot::cmdag.clic();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 3) {
+        std::fprintf(stderr, "usage: velmoria-captures DATA FOLDER\n");
+        return 2;
+    }
+    const fs::path dossier{argv[2]};
+    fs::create_directories(dossier);
+    const auto donnees = dossier / "data-privee";
+    fs::remove_all(donnees);
+    fs::copy(argv[1], donnees, fs::copy_options::recursive);
+
+    horloge_fixe horloge;
+    plateforme::attente_precise attente;
+    banc::etabli etabli{plateforme::horloge_monotone};
+    plateforme::qt::seance seance{argc, argv,
+                                  {.port = etabli.port(),
+                                   .horloge = horloge,
+                                   .attente =
+                                       [&](std::int64_t ns) {
+                                           etabli.commence_attente(ns);
+                                           attente.attend(ns);
+                                       },
+                                   .apres_cession = [&etabli] { etabli.cession_finie(); },
+                                   .icone = "velmoria-banc",
+                                   .donnees = donnees}};
+    seance.demarre();
+    banc::fenetre_banc banc{etabli};
+    banc.show();
+    const photographe photo{seance.vue().principale(), dossier};
+    photo.prend(seance.vue().principale(), "demarrage");
+    chaque_panneau(photo);
+    en_mouvement(photo, seance.vue().principale(), banc);
+    fs::remove_all(donnees);
+    return 0;
+}
