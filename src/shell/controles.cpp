@@ -36,7 +36,7 @@ void controle::revient_au_dessin() {
 std::string controle::nom() const {
     std::string n{nom_};
     if (indice_ >= 0)
-        n += "(" + std::to_string(indice_) + ")";
+        n.append("(").append(std::to_string(indice_)).append(")");
     return n;
 }
 
