@@ -29,46 +29,46 @@ inline constinit champ_etiquette lbllatmin{
 inline constinit champ_cadre frmeca{
     fiche, "frmeca", {60, 1185, 3750, 2925}, {.legende = "Paramètres mécaniques"}};
 inline constinit champ_etiquette lblazimut{
-    fiche, "lblazimut", {2040, 240, 765, 270}, {.legende = "Azimut", .cadre = &frmeca}};
+    fiche, "lblazimut", {2160, 240, 720, 270}, {.legende = "Azimut", .cadre = &frmeca}};
 inline constinit champ_etiquette lblaltitude{
-    fiche, "lblaltitude", {2865, 240, 825, 270}, {.legende = "Altitude", .cadre = &frmeca}};
+    fiche, "lblaltitude", {2940, 240, 780, 270}, {.legende = "Altitude", .cadre = &frmeca}};
 inline constinit champ_etiquette lblpas{
-    fiche, "lblpas", {120, 570, 1860, 270}, {.legende = "Nombre de pas moteur", .cadre = &frmeca}};
-inline constinit champ_texte txtpasaz{fiche, "txtpasaz", {2040, 525, 765, 345}, {.cadre = &frmeca}};
-inline constinit champ_texte txtpasalt{fiche, "txtpasalt", {2865, 525, 765, 345}, {.cadre = &frmeca}};
+    fiche, "lblpas", {90, 570, 2040, 270}, {.legende = "Nombre de pas moteur", .cadre = &frmeca}};
+inline constinit champ_texte txtpasaz{fiche, "txtpasaz", {2160, 525, 720, 345}, {.cadre = &frmeca}};
+inline constinit champ_texte txtpasalt{fiche, "txtpasalt", {2940, 525, 720, 345}, {.cadre = &frmeca}};
 inline constinit champ_etiquette lblrapport{
-    fiche, "lblrapport", {120, 960, 1860, 270}, {.legende = "Rapports de réduction", .cadre = &frmeca}};
-inline constinit champ_texte txtRaz{fiche, "txtRaz", {2040, 915, 765, 345}, {.cadre = &frmeca}};
-inline constinit champ_texte txtRalt{fiche, "txtRalt", {2865, 915, 765, 345}, {.cadre = &frmeca}};
+    fiche, "lblrapport", {90, 960, 2040, 270}, {.legende = "Rapports de réduction", .cadre = &frmeca}};
+inline constinit champ_texte txtRaz{fiche, "txtRaz", {2160, 915, 720, 345}, {.cadre = &frmeca}};
+inline constinit champ_texte txtRalt{fiche, "txtRalt", {2940, 915, 720, 345}, {.cadre = &frmeca}};
 inline constinit champ_etiquette lblapas{
-    fiche, "lblapas", {120, 1350, 1860, 270}, {.legende = "angle d'un pas a ('')", .cadre = &frmeca}};
-inline constinit champ_texte txtapas{fiche, "txtapas", {2040, 1305, 1590, 345}, {.cadre = &frmeca}};
+    fiche, "lblapas", {90, 1350, 2040, 270}, {.legende = "angle d'un pas a ('')", .cadre = &frmeca}};
+inline constinit champ_texte txtapas{fiche, "txtapas", {2160, 1305, 1500, 345}, {.cadre = &frmeca}};
 inline constinit champ_etiquette lblhpas{
-    fiche, "lblhpas", {120, 1740, 1860, 270}, {.legende = "angle d'un pas h ('')", .cadre = &frmeca}};
-inline constinit champ_texte txthpas{fiche, "txthpas", {2040, 1695, 1590, 345}, {.cadre = &frmeca}};
+    fiche, "lblhpas", {90, 1740, 2040, 270}, {.legende = "angle d'un pas h ('')", .cadre = &frmeca}};
+inline constinit champ_texte txthpas{fiche, "txthpas", {2160, 1695, 1500, 345}, {.cadre = &frmeca}};
 inline constinit champ_etiquette lblplus{
-    fiche, "lblplus", {120, 2130, 1860, 270}, {.legende = "sens +", .cadre = &frmeca}};
+    fiche, "lblplus", {90, 2130, 2040, 270}, {.legende = "sens +", .cadre = &frmeca}};
 inline constinit champ_texte txtazplus{
-    fiche, "txtazplus", {2040, 2085, 765, 345}, {.legende = "0", .cadre = &frmeca}};
+    fiche, "txtazplus", {2160, 2085, 720, 345}, {.legende = "0", .cadre = &frmeca}};
 inline constinit champ_texte txtaltplus{
-    fiche, "txtaltplus", {2865, 2085, 765, 345}, {.legende = "0", .cadre = &frmeca}};
+    fiche, "txtaltplus", {2940, 2085, 720, 345}, {.legende = "0", .cadre = &frmeca}};
 inline constinit champ_etiquette lblmoins{
-    fiche, "lblmoins", {120, 2520, 1860, 270}, {.legende = "sens -", .cadre = &frmeca}};
+    fiche, "lblmoins", {90, 2520, 2040, 270}, {.legende = "sens -", .cadre = &frmeca}};
 inline constinit champ_texte txtazmoins{
-    fiche, "txtazmoins", {2040, 2475, 765, 345}, {.legende = "8", .cadre = &frmeca}};
+    fiche, "txtazmoins", {2160, 2475, 720, 345}, {.legende = "8", .cadre = &frmeca}};
 inline constinit champ_texte txtaltmoins{
-    fiche, "txtaltmoins", {2865, 2475, 765, 345}, {.legende = "2", .cadre = &frmeca}};
+    fiche, "txtaltmoins", {2940, 2475, 720, 345}, {.legende = "2", .cadre = &frmeca}};
 
 inline constinit champ_cadre framecodeur{
     fiche, "framecodeur", {60, 4170, 3750, 1110}, {.legende = "Paramètres codeurs"}};
 inline constinit champ_texte txtazencoding{
-    fiche, "txtazencoding", {120, 270, 1860, 345}, {.cadre = &framecodeur}};
+    fiche, "txtazencoding", {90, 270, 1980, 345}, {.cadre = &framecodeur}};
 inline constinit champ_bouton cmdazencoding{
-    fiche, "cmdazencoding", {2040, 255, 1590, 375}, {.legende = "init az", .cadre = &framecodeur}};
+    fiche, "cmdazencoding", {2160, 255, 1500, 375}, {.legende = "init az", .cadre = &framecodeur}};
 inline constinit champ_texte txtaltencoding{
-    fiche, "txtaltencoding", {120, 675, 1860, 345}, {.cadre = &framecodeur}};
+    fiche, "txtaltencoding", {90, 675, 1980, 345}, {.cadre = &framecodeur}};
 inline constinit champ_bouton cmdaltencoding{
-    fiche, "cmdaltencoding", {2040, 660, 1590, 375}, {.legende = "init alt", .cadre = &framecodeur}};
+    fiche, "cmdaltencoding", {2160, 660, 1500, 375}, {.legende = "init alt", .cadre = &framecodeur}};
 
 inline constinit champ_cadre Frobservation{
     fiche, "Frobservation", {3870, 30, 2985, 3735}, {.legende = "Coordonnées de l'objet observé"}};

@@ -12,22 +12,22 @@ inline constinit panneau fiche{"frmequaconfig", "Paramètres", 3960, 3525};
 inline constinit champ_cadre frmeca{
     fiche, "frmeca", {60, 30, 3690, 1395}, {.legende = "Paramètres mécaniques"}};
 inline constinit champ_etiquette lblad{
-    fiche, "lblad", {2040, 240, 720, 270}, {.legende = "A.D", .cadre = &frmeca}};
+    fiche, "lblad", {2100, 240, 720, 270}, {.legende = "A.D", .cadre = &frmeca}};
 inline constinit champ_etiquette lbldec{
-    fiche, "lbldec", {2850, 240, 720, 270}, {.legende = "Déc.", .cadre = &frmeca}};
+    fiche, "lbldec", {2880, 240, 720, 270}, {.legende = "Déc.", .cadre = &frmeca}};
 inline constinit champ_etiquette lblpas{
-    fiche, "lblpas", {120, 570, 1860, 270}, {.legende = "Nombre de pas moteur", .cadre = &frmeca}};
-inline constinit champ_texte txtpasad{fiche, "txtpasad", {2040, 525, 750, 345}, {.cadre = &frmeca}};
-inline constinit champ_texte txtpasdec{fiche, "txtpasdec", {2850, 525, 750, 345}, {.cadre = &frmeca}};
+    fiche, "lblpas", {90, 570, 1980, 270}, {.legende = "Nombre de pas moteur", .cadre = &frmeca}};
+inline constinit champ_texte txtpasad{fiche, "txtpasad", {2100, 525, 720, 345}, {.cadre = &frmeca}};
+inline constinit champ_texte txtpasdec{fiche, "txtpasdec", {2880, 525, 720, 345}, {.cadre = &frmeca}};
 inline constinit champ_etiquette lblrapport{
-    fiche, "lblrapport", {120, 960, 1860, 270}, {.legende = "Rapports de réduction", .cadre = &frmeca}};
-inline constinit champ_texte txtRad{fiche, "txtRad", {2040, 915, 750, 345}, {.cadre = &frmeca}};
-inline constinit champ_texte txtRdec{fiche, "txtRdec", {2850, 915, 750, 345}, {.cadre = &frmeca}};
+    fiche, "lblrapport", {90, 960, 1980, 270}, {.legende = "Rapports de réduction", .cadre = &frmeca}};
+inline constinit champ_texte txtRad{fiche, "txtRad", {2100, 915, 720, 345}, {.cadre = &frmeca}};
+inline constinit champ_texte txtRdec{fiche, "txtRdec", {2880, 915, 720, 345}, {.cadre = &frmeca}};
 
 inline constinit champ_cadre framecodeur{
     fiche, "framecodeur", {60, 1485, 3690, 795}, {.legende = "Paramètres codeurs"}};
 inline constinit champ_bouton cmdbacklash{
-    fiche, "cmdbacklash", {2040, 270, 1560, 405}, {.legende = "backlash", .cadre = &framecodeur}};
+    fiche, "cmdbacklash", {2100, 270, 1500, 405}, {.legende = "backlash", .cadre = &framecodeur}};
 
 inline constinit champ_bouton bFin{fiche, "bFin", {2430, 2415, 1320, 495}, {.image = "fin"}};
 

@@ -12,7 +12,7 @@ using essais::machine_essai;
 std::string objets(std::size_t n) {
     std::string t;
     for (std::size_t i = 1; i <= n; ++i)
-        t += "X" + std::to_string(i) + ",GL,1,2\r\n";
+        t.append("X").append(std::to_string(i)).append(",GL,1,2\r\n");
     return t;
 }
 

@@ -131,7 +131,7 @@ TEST(frmconfig, catalogues_pleins) {
     const machine_essai m;
     std::string t;
     for (int i = 1; i <= 1031; ++i)
-        t += "N" + std::to_string(i) + ",And,1,2\r\n";
+        t.append("N").append(std::to_string(i)).append(",And,1,2\r\n");
     m.fichier("5magstar.cat", t);
     frmconfig::fiche.montre();
     frmconfig::lbCatalogue.choisit(0);

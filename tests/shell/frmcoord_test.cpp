@@ -123,10 +123,11 @@ TEST(frmcoord, pas_comptes) {
     EXPECT_EQ(cmd_moteur::compteaz, 0);
     EXPECT_EQ(cmd_moteur::comptealt, 0);
     // A load forgets steps not yet folded, and leaves the position.
-    cmd_moteur::compteaz = 10;
+    cmd_moteur::compteaz = cmd_moteur::comptealt = 10;
     frmcoord::fiche.decharge();
     frmcoord::fiche.charge();
     EXPECT_EQ(cmd_moteur::compteaz, 0);
+    EXPECT_EQ(cmd_moteur::comptealt, 0);
     EXPECT_EQ(general::posaz, 225);
 }
 
