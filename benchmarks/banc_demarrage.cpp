@@ -93,8 +93,10 @@ int main() {
     const double nu = mediane(nus);
     const double delai = mediane(delais);
     const double plein = mediane(pleins);
-    std::printf("démarrage (médianes de %d) : Qt nu %.1f ms, programme %.1f ms dont %.1f ms de délai compté ; "
-                "sans lui %.2f fois Qt nu\n",
-                repetitions, nu, plein, delai, (plein - delai) / nu);
-    std::printf("mémoire PSS : Qt nu %.1f Mo, programme %.1f Mo\n", mediane(memoires_nues), mediane(memoires));
+    std::printf(
+        "démarrage (médianes de %d) : Qt nu %.1f ms, programme %.1f ms dont %.1f ms de délai compté ; "
+        "sans lui %.2f fois Qt nu\n",
+        repetitions, nu, plein, delai, (plein - delai) / nu);
+    std::printf("mémoire PSS : Qt nu %.1f Mo, programme %.1f Mo\n", mediane(memoires_nues),
+                mediane(memoires));
 }

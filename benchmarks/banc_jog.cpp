@@ -1,12 +1,14 @@
 // How fast a motor can be driven through the live windows, and how near a slow jog comes to its nominal
 // period. Needs a display; run it on the xcb platform.
+#include "bench/fenetre_banc.h"
 #include "drive/cmd_moteur.h"
 #include "piloting/frmaltazpilot_champs.h"
+#include "platform/linux/attente_precise.h"
 #include "platform/linux/horloge_systeme.h"
 #include "platform/qt/boucle_qt.h"
 #include "platform/qt/lance.h"
-#include "principaux/provisoire.h"
 #include "shell/frminterface_champs.h"
+#include "sky/heure.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -20,20 +22,6 @@ namespace {
 using clock_mono = std::chrono::steady_clock;
 
 constexpr int repetitions = 7;
-
-// Counts what goes through to the bench's port.
-class port_compte final : public plateforme::port {
-  public:
-    void ecrit(int adresse, std::uint8_t valeur) override {
-        ++ecritures;
-        dessous.ecrit(adresse, valeur);
-    }
-    std::uint8_t lit(int adresse) override { return dessous.lit(adresse); }
-    std::uint64_t ecritures = 0;
-
-  private:
-    provisoire::port_muet dessous;
-};
 
 double ecoule(clock_mono::time_point debut) {
     return std::chrono::duration<double>(clock_mono::now() - debut).count();
@@ -51,18 +39,18 @@ struct course {
 };
 
 // One jog to the right, started and stopped as an observer does, for about `ms` milliseconds.
-course jog(plateforme::qt::boucle_qt& boucle, port_compte& port, int compte, int ms) {
+course jog(plateforme::qt::boucle_qt& boucle, banc::port_simule& port, int compte, int ms) {
     cmd_moteur::vitessealtaz.fill(cmd_moteur::entier32{compte});
     QTimer::singleShot(ms, [] { frmaltazpilot::cmddstop.appuie(); });
-    const auto e = port.ecritures;
+    const auto e = port.total_ecritures();
     const auto p = boucle.passes();
     const auto debut = clock_mono::now();
     frmaltazpilot::cmdad.clic();
-    return {ecoule(debut), static_cast<double>(port.ecritures - e) / 2,
+    return {ecoule(debut), static_cast<double>(port.total_ecritures() - e) / 2,
             static_cast<double>(boucle.passes() - p)};
 }
 
-void vitesse(plateforme::qt::boucle_qt& boucle, port_compte& port) {
+void vitesse(plateforme::qt::boucle_qt& boucle, banc::port_simule& port) {
     std::vector<double> cadences;
     std::vector<double> parts;
     for (int i = 0; i < repetitions; ++i) {
@@ -101,7 +89,7 @@ void vitesse(plateforme::qt::boucle_qt& boucle, port_compte& port) {
                 1 / cadence / plancher);
 }
 
-void periode(plateforme::qt::boucle_qt& boucle, port_compte& port, int ms_par_attente) {
+void periode(plateforme::qt::boucle_qt& boucle, banc::port_simule& port, int ms_par_attente) {
     const auto compte = static_cast<int>(ms_par_attente * 1'000'000 / plateforme::ns_par_compte) - 1;
     const double nominale = 2e-9 * static_cast<double>((compte + 1) * plateforme::ns_par_compte);
     std::vector<double> rapports;
@@ -116,11 +104,25 @@ void periode(plateforme::qt::boucle_qt& boucle, port_compte& port, int ms_par_at
 } // namespace
 
 int main(int argc, char** argv) {
-    port_compte port;
-    plateforme::horloge_systeme horloge;
-    plateforme::qt::seance s{
-        argc, argv, {.port = port, .horloge = horloge, .attente = provisoire::attend, .donnees = DONNEES}};
+    banc::horloge_banc horloge{plateforme::temps_universel,
+                               [] { return int{general::decalageheure.valeur()}; }};
+    plateforme::attente_precise attente;
+    banc::etabli etabli{plateforme::horloge_monotone};
+    auto& port = etabli.port();
+    plateforme::qt::seance s{argc,
+                             argv,
+                             {.port = port,
+                              .horloge = horloge,
+                              .attente =
+                                  [&](std::int64_t ns) {
+                                      etabli.commence_attente(ns);
+                                      attente.attend(ns);
+                                  },
+                              .apres_cession = [&etabli] { etabli.cession_finie(); },
+                              .donnees = DONNEES}};
     s.demarre();
+    banc::fenetre_banc fenetre{etabli, horloge};
+    fenetre.show();
     frminterface::altazimutal.clic();
     frminterface::baraltaz_boutons(3).clic();
     frminterface::Timer.marche(true);

@@ -22,15 +22,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// A night inside the almanac's years.
-class horloge_fixe final : public plateforme::horloge {
-  public:
-    plateforme::instant maintenant() override { return {2000, 8, 15, 22, 30, 12, 0}; }
-};
-
 class photographe {
   public:
-    photographe(QWidget* principale, fs::path dossier) : principale_(principale), dossier_(std::move(dossier)) {}
+    photographe(QWidget* principale, fs::path dossier)
+        : principale_(principale), dossier_(std::move(dossier)) {}
 
     void prend(QWidget* w, const std::string& nom) const {
         for (int i = 0; i < 5; ++i)
@@ -101,10 +96,12 @@ int main(int argc, char** argv) {
     fs::remove_all(donnees);
     fs::copy(argv[1], donnees, fs::copy_options::recursive);
 
-    horloge_fixe horloge;
+    banc::horloge_banc horloge{plateforme::temps_universel, [] { return 2; }};
+    horloge.regle({2000, 8, 15, 22, 30, 12, 0});
     plateforme::attente_precise attente;
     banc::etabli etabli{plateforme::horloge_monotone};
-    plateforme::qt::seance seance{argc, argv,
+    plateforme::qt::seance seance{argc,
+                                  argv,
                                   {.port = etabli.port(),
                                    .horloge = horloge,
                                    .attente =
@@ -116,7 +113,7 @@ int main(int argc, char** argv) {
                                    .icone = "velmoria-banc",
                                    .donnees = donnees}};
     seance.demarre();
-    banc::fenetre_banc banc{etabli};
+    banc::fenetre_banc banc{etabli, horloge};
     banc.show();
     const photographe photo{seance.vue().principale(), dossier};
     photo.prend(seance.vue().principale(), "demarrage");

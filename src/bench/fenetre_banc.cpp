@@ -58,13 +58,14 @@ QPushButton* bouton(const char* nom, const QString& texte) {
 
 } // namespace
 
-fenetre_banc::fenetre_banc(etabli& e) : etabli_(e) {
+fenetre_banc::fenetre_banc(etabli& e, horloge_banc& h) : etabli_(e), horloge_(h) {
     setObjectName("banc");
     setWindowTitle("Velmoria : banc d'essai");
     auto* colonne = new QVBoxLayout{this};
     colonne->setSizeConstraint(QLayout::SetFixedSize);
     colonne->addWidget(fait_lignes_du_port());
     colonne->addWidget(fait_axes());
+    colonne->addWidget(fait_horloge());
     colonne->addWidget(fait_mesures());
     rafraichit();
     startTimer(periode_ms);
@@ -135,6 +136,40 @@ QWidget* fenetre_banc::fait_axes() {
     boutons->addWidget(pose);
     boutons->addWidget(zero);
     grille->addLayout(boutons, 4, 0, 1, 6);
+    return groupe;
+}
+
+QWidget* fenetre_banc::fait_horloge() {
+    auto* groupe = new QGroupBox{"Horloge de l'ordinateur, vue par le programme"};
+    auto* rang = new QHBoxLayout{groupe};
+    heure_ = new QLabel;
+    heure_->setObjectName("heure");
+    heure_->setMinimumWidth(150);
+    date_ = new QLineEdit;
+    date_->setObjectName("date");
+    date_->setAccessibleName("date");
+    date_->setPlaceholderText("2001-08-15 22:00:00");
+    auto* regle = bouton("regle", "Régler");
+    auto* revient = bouton("cette_nuit", "Cette nuit");
+    revient->setToolTip("Le ciel de cette nuit, porté dans les années de l'almanach");
+    const auto met_a_l_heure = [this] {
+        const auto i = lit_date(date_->text().trimmed().toStdString());
+        if (i)
+            horloge_.regle(*i);
+        else
+            date_->selectAll(); // not a date: nothing is set
+        rafraichit();
+    };
+    QObject::connect(regle, &QPushButton::clicked, this, met_a_l_heure);
+    QObject::connect(date_, &QLineEdit::returnPressed, this, met_a_l_heure);
+    QObject::connect(revient, &QPushButton::clicked, this, [this] {
+        horloge_.revient();
+        rafraichit();
+    });
+    rang->addWidget(heure_);
+    rang->addWidget(date_, 1);
+    rang->addWidget(regle);
+    rang->addWidget(revient);
     return groupe;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "bench/etabli.h"
+#include "bench/horloge_banc.h"
 
 #include <QWidget>
 #include <array>
@@ -17,8 +18,8 @@ class voyants;
 
 class fenetre_banc final : public QWidget {
   public:
-    /// `e` must outlive the window.
-    explicit fenetre_banc(etabli& e);
+    /// Both must outlive the window.
+    fenetre_banc(etabli& e, horloge_banc& h);
     /// Brings every figure up to date; runs ten times a second by itself.
     void rafraichit();
 
@@ -35,14 +36,18 @@ class fenetre_banc final : public QWidget {
     };
     QWidget* fait_lignes_du_port();
     QWidget* fait_axes();
+    QWidget* fait_horloge();
     QWidget* fait_mesures();
     void bascule_enregistrement();
 
     etabli& etabli_;
+    horloge_banc& horloge_;
     voyants* voyants_ = nullptr;
     QLabel* registres_ = nullptr;
     std::array<ligne, 2> axes_;
     std::array<cadran*, 2> cadrans_{};
+    QLabel* heure_ = nullptr;
+    QLineEdit* date_ = nullptr;
     QLabel* retard_ = nullptr;
     QLineEdit* chemin_ = nullptr;
     QPushButton* enregistre_ = nullptr;

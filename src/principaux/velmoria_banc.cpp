@@ -4,11 +4,13 @@
 #include "platform/linux/horloge_systeme.h"
 #include "platform/qt/fin.h"
 #include "platform/qt/lance.h"
+#include "sky/heure.h"
 
 #include <optional>
 
 int main(int argc, char** argv) {
-    plateforme::horloge_systeme horloge;
+    banc::horloge_banc horloge{plateforme::temps_universel,
+                               [] { return int{general::decalageheure.valeur()}; }};
     plateforme::attente_precise attente;
     banc::etabli etabli{plateforme::horloge_monotone};
     std::optional<banc::fenetre_banc> fenetre; // widgets need the application object first
@@ -23,5 +25,5 @@ int main(int argc, char** argv) {
                                       },
                                   .apres_cession = [&etabli] { etabli.cession_finie(); },
                                   .icone = "velmoria-banc",
-                                  .ensuite = [&] { fenetre.emplace(etabli).show(); }});
+                                  .ensuite = [&] { fenetre.emplace(etabli, horloge).show(); }});
 }

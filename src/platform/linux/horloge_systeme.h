@@ -7,6 +7,13 @@
 
 namespace plateforme {
 
+/// The present instant, milliseconds of universal time since 1970 January 1, 0 h.
+inline std::int64_t temps_universel() {
+    timespec t{};
+    clock_gettime(CLOCK_REALTIME, &t);
+    return std::int64_t{t.tv_sec} * 1000 + t.tv_nsec / 1'000'000;
+}
+
 class horloge_systeme final : public horloge {
   public:
     instant maintenant() override {

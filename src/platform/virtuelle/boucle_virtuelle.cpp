@@ -1,9 +1,9 @@
 #include "platform/virtuelle/boucle_virtuelle.h"
 
+#include "platform/horloge_equivalente.h"
 #include "shell/controles.h"
 
 #include <algorithm>
-#include <chrono>
 
 namespace plateforme {
 
@@ -84,28 +84,8 @@ void boucle_virtuelle::avance(std::int64_t ns) {
     temps_ = std::max(temps_, fin);
 }
 
-void boucle_virtuelle::regle_horloge(const instant& c) {
-    using namespace std::chrono;
-    const sys_days jour =
-        year{c.annee} / month{static_cast<unsigned>(c.mois)} / day{static_cast<unsigned>(c.jour)};
-    const auto ms = duration_cast<milliseconds>(jour.time_since_epoch()) + hours{c.heure} +
-                    minutes{c.minute} + seconds{c.seconde} + milliseconds{c.milliseconde};
-    civil_ = ms.count() - temps_ / ns_par_ms;
-}
+void boucle_virtuelle::regle_horloge(const instant& c) { civil_ = depuis_date(c) - temps_ / ns_par_ms; }
 
-instant boucle_virtuelle::maintenant() {
-    using namespace std::chrono;
-    const milliseconds ms{civil_ + temps_ / ns_par_ms};
-    const auto jours = floor<days>(ms);
-    const year_month_day date{sys_days{jours}};
-    const hh_mm_ss heure{ms - jours};
-    return {int{date.year()},
-            static_cast<int>(unsigned{date.month()}),
-            static_cast<int>(unsigned{date.day()}),
-            static_cast<int>(heure.hours().count()),
-            static_cast<int>(heure.minutes().count()),
-            static_cast<int>(heure.seconds().count()),
-            static_cast<int>(heure.subseconds().count())};
-}
+instant boucle_virtuelle::maintenant() { return date_civile(civil_ + temps_ / ns_par_ms); }
 
 } // namespace plateforme

@@ -2,12 +2,12 @@
 
 #include "base/nombre.h"
 #include "base/octets.h"
+#include "bench/horloge_banc.h"
 #include "bench/unites.h"
 #include "platform/virtuelle/valeur_montree.h"
 #include "shell/programme.h"
 
 #include <charconv>
-#include <chrono>
 #include <istream>
 #include <optional>
 #include <ostream>
@@ -50,23 +50,10 @@ std::int64_t duree(const std::string& s) {
 }
 
 instant date_et_heure(const std::string& s) {
-    instant i;
-    int lus = 0;
-    const int champs = std::sscanf(s.c_str(), "%4d-%2d-%2d %2d:%2d:%2d%n", &i.annee, &i.mois, &i.jour,
-                                   &i.heure, &i.minute, &i.seconde, &lus);
-    const auto reste = champs == 6 ? s.substr(static_cast<std::size_t>(lus)) : "?";
-    bool juste = reste.empty();
-    if (reste.size() == 4 && reste[0] == '.') {
-        i.milliseconde = entier(reste.substr(1));
-        juste = true;
-    }
-    const std::chrono::year_month_day date{std::chrono::year{i.annee},
-                                           std::chrono::month{static_cast<unsigned>(i.mois)},
-                                           std::chrono::day{static_cast<unsigned>(i.jour)}};
-    if (!juste || !date.ok() || i.heure > 23 || i.minute > 59 || i.seconde > 59)
-        throw ligne_incomprise{"une date et une heure étaient attendues (2001-08-15 22:00:00.000) : \"" + s +
-                               "\""};
-    return i;
+    if (const auto i = banc::lit_date(s))
+        return *i;
+    throw ligne_incomprise{"une date et une heure étaient attendues (2001-08-15 22:00:00.000) : \"" + s +
+                           "\""};
 }
 
 shell::controle& controle_de(const std::string& nom) {

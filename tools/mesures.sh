@@ -1,0 +1,13 @@
+#!/usr/bin/env bash
+# Runs every benchmark of a release build, windows on a virtual display: tools/mesures.sh [BUILD FOLDER]
+set -euo pipefail
+cd "$(dirname "$0")/.."
+construit=${1:-build/release}/benchmarks
+for b in banc_attente banc_port_simule; do
+    printf '\n== %s\n' "$b"
+    "$construit/$b"
+done
+for b in banc_jog banc_demarrage; do
+    printf '\n== %s\n' "$b"
+    tests/fenetres/ecran.sh "$construit/$b"
+done
