@@ -17,8 +17,8 @@ inline constinit panneau fiche{"frmraquette", "Raquette", largeur_fermee, hauteu
 inline constinit champ_image Shape1{fiche, "Shape1", {90, 60, 1260, 3030}, {.image = "raquette/corps"}};
 inline constinit champ_image Shape2{fiche, "Shape2", {165, 675, 1110, 2220}, {.image = "raquette/plaque"}};
 inline constinit champ_image Image1{fiche, "Image1", {540, 750, 360, 360}, {.image = "raquette/haut"}};
-inline constinit champ_image Image2{fiche, "Image2", {180, 1110, 360, 360}, {.image = "raquette/gauche"}};
-inline constinit champ_image Image3{fiche, "Image3", {900, 1110, 360, 360}, {.image = "raquette/droite"}};
+inline constinit champ_image Image2{fiche, "Image2", {240, 1110, 360, 360}, {.image = "raquette/gauche"}};
+inline constinit champ_image Image3{fiche, "Image3", {840, 1110, 360, 360}, {.image = "raquette/droite"}};
 inline constinit champ_image Image4{fiche, "Image4", {540, 1470, 360, 360}, {.image = "raquette/bas"}};
 inline constinit champ_image Image5{
     fiche, "Image5", {255, 1965, 420, 840}, {.image = "raquette/commutateur"}};
