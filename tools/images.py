@@ -9,6 +9,7 @@ What lies where in pictures/:
     img/        faces of the drawn buttons  -> data/img/*.gif, named in order by liste.txt
     icones/     toolbar icons               -> ressources/icones/, 24 px and @2x, @3x
     boutons/    pictures on buttons         -> ressources/boutons/, 32 px and @2x, @3x
+    raquette/   parts of the hand paddle    -> ressources/raquette/, their own size and @2x, @3x
     accueil     splash picture              -> ressources/accueil.png and @2x
     velmoria, velmoria-banc                 -> program icons, one file a size
 
@@ -114,8 +115,9 @@ def produit(racine):
         ecrit_gif(dessine(f"img/{nom}", largeur * ECHELLE_FACES, hauteur * ECHELLE_FACES), img / f"{nom}.gif")
     (img / "liste.txt").write_bytes("".join(f"{nom}\r\n" for nom in FACES).encode("cp1252"))
 
-    for source in sorted(SOURCES.glob("icones/*.svg")) + sorted(SOURCES.glob("boutons/*.svg")):
-        a_echelles(f"{source.parent.name}/{source.stem}", ressources, (1, 2, 3))
+    for dossier in ("icones", "boutons", "raquette"):
+        for source in sorted(SOURCES.glob(f"{dossier}/*.svg")):
+            a_echelles(f"{dossier}/{source.stem}", ressources, (1, 2, 3))
     largeur, hauteur = taille_logique(SOURCES / "accueil.svg")
     for echelle, suffixe in ((1, ""), (2, "@2x")):
         image = dessine("accueil", largeur * echelle, hauteur * echelle)

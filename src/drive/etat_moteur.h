@@ -38,7 +38,16 @@ inline entier32 comptealt;
 inline entier32 pasencodeaz; ///< steps of all paddle loops since a counting button cleared them
 inline entier32 pasencodealt;
 
+inline entier16 codepaddle;     ///< what the last scan of the paddle saw
 inline entier16 baselinepaddle; ///< what the program believes it last put on the data register
+inline entier32 slotazl;        ///< delay counts of the paddle, azimuth: low, medium and fast speed
+inline entier32 slotazm;
+inline entier32 slotazr;
+inline entier32 slotaltl; ///< the same of altitude
+inline entier32 slotaltm;
+inline entier32 slotaltr;
+inline double jeucourantaz = 0; ///< steps of the last paddle press, cleared when one starts
+inline double jeucourantalt = 0;
 
 /// Delay counts by class + 5 x axis (0 azimuth, 1 altitude).
 inline std::array<entier32, 10> vitessealtaz;

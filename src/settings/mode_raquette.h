@@ -3,10 +3,10 @@
 
 namespace reglages {
 
-/// Gives the port to the paddle and starts its scan.
+/// Gives the port to the paddle, shows its panel and starts its scan.
 void prend_raquette();
 
-/// The same, to measure the backlash.
+/// The same, with the panel's backlash section open.
 void mesure_jeu();
 
 } // namespace reglages

@@ -2,8 +2,10 @@
 
 #include "base/nombre.h"
 #include "drive/cmd_moteur.h"
+#include "drive/raquette.h"
 #include "piloting/frmaltazpilot_champs.h"
 #include "piloting/frmequapilot_champs.h"
+#include "piloting/frmraquette_champs.h"
 #include "piloting/jeu.h"
 #include "platform/image.h"
 #include "platform/plateforme.h"
@@ -71,6 +73,7 @@ void mode_ordinateur() {
     Out32(registre_controle, controle_ordinateur);
     Out32(registre_donnees, 0);
     Timer.marche(false);
+    frmraquette::fiche.decharge();
 }
 
 // Every working panel, in the order in which paddle mode closes them.
@@ -85,6 +88,7 @@ void decharge_panneaux() {
 void mode_raquette() {
     cmd_moteur::port_a_la_raquette();
     decharge_panneaux();
+    frmraquette::fiche.montre();
     Timer.marche(true);
 }
 
@@ -137,6 +141,7 @@ void bascule_coordonnees() {
 void pilote(shell::panneau& panneau) {
     panneau.montre();
     Timer.marche(false);
+    frmraquette::fiche.decharge();
 }
 
 // ---- the hidden general bar
@@ -160,6 +165,7 @@ void general_raquette() {
     fiche.maximise(false);
     fiche.hauteur(8000);
     fiche.largeur(11000);
+    frmraquette::fiche.montre();
     Timer.marche(true);
 }
 
@@ -222,6 +228,7 @@ void branche_menu() {
 
 void branche() {
     fiche.au_chargement(charge);
+    Timer.au_tic(cmd_moteur::scruteraquette);
     branche_barres();
     branche_menu();
 }

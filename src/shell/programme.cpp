@@ -5,6 +5,8 @@
 #include "piloting/frmaltazpilot_champs.h"
 #include "piloting/frmequapilot.h"
 #include "piloting/frmequapilot_champs.h"
+#include "piloting/frmraquette.h"
+#include "piloting/frmraquette_champs.h"
 #include "piloting/jeu.h"
 #include "pointing/etat_pointage.h"
 #include "settings/etat_suivi.h"
@@ -35,6 +37,7 @@ std::vector<shell::panneau*> panneaux() {
     frmintro::fiche.construit(frmintro::controles());
     frmaltazpilot::fiche.construit(frmaltazpilot::controles());
     frmequapilot::fiche.construit(frmequapilot::controles());
+    frmraquette::fiche.construit(frmraquette::controles());
     frmcoord::fiche.construit(frmcoord::controles());
     frmconfig::fiche.construit(frmconfig::controles());
     frmequaconfig::fiche.construit(frmequaconfig::controles());
@@ -43,12 +46,14 @@ std::vector<shell::panneau*> panneaux() {
     frminterface::branche();
     frmaltazpilot::branche();
     frmequapilot::branche();
+    frmraquette::branche();
     frmcoord::branche();
     frmconfig::branche();
     frmequaconfig::branche();
 
-    return {&frminterface::fiche, &frmintro::fiche,  &frmaltazpilot::fiche, &frmequapilot::fiche,
-            &frmcoord::fiche,     &frmconfig::fiche, &frmequaconfig::fiche, &frmaltazsuivi::fiche};
+    return {&frminterface::fiche,  &frmintro::fiche,      &frmaltazpilot::fiche,
+            &frmequapilot::fiche,  &frmcoord::fiche,      &frmconfig::fiche,
+            &frmequaconfig::fiche, &frmaltazsuivi::fiche, &frmraquette::fiche};
 }
 
 #define VARIABLE(module, nom) shell::nomme(#nom, module::nom)
@@ -72,7 +77,16 @@ std::vector<shell::variable> variables() {
         VARIABLE(cmd_moteur, vitchange),
         VARIABLE(cmd_moteur, compteaz),
         VARIABLE(cmd_moteur, comptealt),
+        VARIABLE(cmd_moteur, codepaddle),
         VARIABLE(cmd_moteur, baselinepaddle),
+        VARIABLE(cmd_moteur, slotazl),
+        VARIABLE(cmd_moteur, slotazm),
+        VARIABLE(cmd_moteur, slotazr),
+        VARIABLE(cmd_moteur, slotaltl),
+        VARIABLE(cmd_moteur, slotaltm),
+        VARIABLE(cmd_moteur, slotaltr),
+        VARIABLE(cmd_moteur, jeucourantaz),
+        VARIABLE(cmd_moteur, jeucourantalt),
         VARIABLE(cmd_moteur, vitessealtaz),
         VARIABLE(cmd_moteur, vitesseequa),
         VARIABLE(cmd_moteur, vitessemanu),

@@ -2,6 +2,7 @@
 #include "machine_essai.h"
 #include "piloting/frmaltazpilot_champs.h"
 #include "piloting/frmequapilot_champs.h"
+#include "piloting/frmraquette_champs.h"
 #include "pointing/etat_pointage.h"
 #include "settings/frmconfig_champs.h"
 #include "settings/frmequaconfig_champs.h"
@@ -89,6 +90,9 @@ TEST(modes, raquette) {
         EXPECT_TRUE(frmcoord::fiche.est_charge()) << "the clock goes on";
         EXPECT_TRUE(heuretimer.marche());
         EXPECT_EQ(baraltaz.visible(), !general);
+        EXPECT_TRUE(frmraquette::fiche.est_visible());
+        (general ? bargeneral_boutons(1) : baraltaz_boutons(1)).clic();
+        EXPECT_FALSE(frmraquette::fiche.est_charge() || Timer.marche());
     }
 }
 

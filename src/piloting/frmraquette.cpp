@@ -1,0 +1,124 @@
+#include "piloting/frmraquette.h"
+
+#include "drive/etat_moteur.h"
+#include "piloting/frmraquette_champs.h"
+#include "piloting/jeu.h"
+#include "platform/plateforme.h"
+#include "settings/champs_fichier.h"
+#include "settings/valeurs.h"
+#include "shell/frminterface_champs.h"
+
+#include <array>
+
+namespace frmraquette {
+
+using namespace cmd_moteur;
+using piloting::backlashalt;
+using piloting::backlashaz;
+
+namespace {
+
+// A scroll bar at v stands for the delay count sommet - facteur x v. The ranges join: from the slowest low
+// speed to the quickest fast one they are one scale.
+struct gamme {
+    int sommet;
+    int facteur;
+};
+constexpr gamme lente{1119078, 20};
+constexpr gamme moyenne{463738, 12};
+constexpr gamme rapide{70534, 2};
+
+struct vitesse {
+    champ_barre& barre;
+    champ_texte& champ;
+    entier32& slot;
+    gamme etendue;
+};
+// In the order of `vitessemanu`.
+const std::array<vitesse, 6> vitesses = {{{HScrollazl, txtaz(0), slotazl, lente},
+                                          {HScrollazm, txtaz(1), slotazm, moyenne},
+                                          {HScrollazr, txtaz(2), slotazr, rapide},
+                                          {HScrollaltl, txtalt(0), slotaltl, lente},
+                                          {HScrollaltm, txtalt(1), slotaltm, moyenne},
+                                          {HScrollaltr, txtalt(2), slotaltr, rapide}}};
+
+// A bar that is to stand at 0 fires no change: its `slot` variable stays as it was.
+void charge() {
+    fiche.largeur(largeur_fermee);
+    fiche.hauteur(hauteur);
+    valeurs::lecteur f{plateforme::fichier_donnees("inversion.ini")};
+    const bool az = f.vrai();
+    const bool alt = f.vrai();
+    invaz = az;
+    invalt = alt;
+    chkaz.coche(az);
+    chkalt.coche(alt);
+    for (std::size_t i = 0; i < vitesses.size(); ++i)
+        vitesses[i].champ.ecrit(vitessemanu[i]);
+    for (const auto& v : vitesses)
+        v.barre.valeur(entier32{(v.etendue.sommet - v.champ.nombre()) / v.etendue.facteur});
+    txtbacklash_alt.ecrit(backlashalt);
+    txtbacklash_az.ecrit(backlashaz);
+}
+
+void change_vitesse(const vitesse& v) {
+    v.champ.ecrit(v.etendue.sommet - v.etendue.facteur * v.barre.valeur());
+    v.slot = entier32{v.champ.nombre()};
+}
+
+void bascule_section() {
+    const bool ferme = lblbacklash.legende() != "8";
+    lblbacklash.legende(ferme ? "8" : "7");
+    fiche.largeur(ferme ? largeur_fermee : largeur_ouverte);
+}
+
+void note_jeu(double& jeu, champ_texte& champ, double pas) {
+    jeu = pas;
+    champ.ecrit(jeu);
+}
+
+// A field that reads as 0 keeps the count that stands in the table.
+void enregistre_vitesses() {
+    valeurs::ecrivain f;
+    for (std::size_t i = 0; i < vitesses.size(); ++i) {
+        const double v = vitesses[i].champ.nombre();
+        if (v != 0) {
+            vitessemanu[i] = entier32{v};
+            f.nombre(v);
+        } else {
+            f.nombre(vitessemanu[i]);
+        }
+    }
+    f.enregistre(plateforme::fichier_donnees("vitessemanu.ini"));
+}
+
+void enregistre() {
+    enregistre_vitesses();
+    invaz = chkaz.coche();
+    invalt = chkalt.coche();
+    valeurs::ecrivain f;
+    f.booleen(static_cast<bool>(invaz));
+    f.booleen(static_cast<bool>(invalt));
+    f.enregistre(plateforme::fichier_donnees("inversion.ini"));
+    reglages::ecrit("backlash.ini", std::array{&txtbacklash_az, &txtbacklash_alt});
+}
+
+} // namespace
+
+void branche() {
+    fiche.au_chargement(charge);
+    for (const auto& v : vitesses)
+        v.barre.au_changement([&v] { change_vitesse(v); });
+    lblbacklash.au_clic(bascule_section);
+    cmdjeuaz_deb.au_clic([] { note_jeu(backlashaz, txtbacklash_az, 0); });
+    cmdjeuaz_fin.au_clic([] { note_jeu(backlashaz, txtbacklash_az, jeucourantaz); });
+    cmdjeualt_deb.au_clic([] { note_jeu(backlashalt, txtbacklash_alt, 0); });
+    cmdjeualt_fin.au_clic([] { note_jeu(backlashalt, txtbacklash_alt, jeucourantalt); });
+    cmdvalid.au_clic(enregistre);
+    Cmdquit.au_clic([] {
+        frminterface::Timer.marche(false);
+        fiche.decharge();
+    });
+}
+
+} // namespace frmraquette
