@@ -149,7 +149,7 @@ void image(const controle& c, QObject* piece) {
         w->montre(pixels_de(c.regarde_image()));
     else if (*c.comme_dessine().image)
         w->montre(
-            decor(c.comme_dessine().image, rectangle(c.regarde_place()).size(), w->devicePixelRatioF()));
+            decor(c.comme_dessine().image, w->devicePixelRatioF()));
     else
         w->montre({});
 }

@@ -106,7 +106,12 @@ QToolBar* barre_outils(QMainWindow& w, const controle& c) {
 }
 
 QAction* outil(QToolBar& barre, champ_outil& c) {
-    auto* action = barre.addAction(icone(c.comme_dessine().valeur), affiche(c.regarde_texte()));
+    auto* action = barre.addAction(affiche(c.regarde_texte()));
+    // Icons are read when their bar is first seen: at start most bars are hidden.
+    QObject::connect(&barre, &QToolBar::visibilityChanged, action, [action, &c](bool visible) {
+        if (visible && action->icon().isNull())
+            action->setIcon(icone(c.comme_dessine().valeur));
+    });
     auto* touche = barre.widgetForAction(action);
     touche->installEventFilter(&sans_bulle);
     touche->setObjectName(affiche(c.nom()));
@@ -157,7 +162,8 @@ QWidget* enfant(fenetre& f, QMdiArea& zone) {
 }
 
 QWidget* accueil(fenetre& f) {
-    auto* w = new QWidget{nullptr, Qt::SplashScreen | Qt::FramelessWindowHint};
+    // On screen at once: a window manager would take longer than the splash is there for.
+    auto* w = new QWidget{nullptr, Qt::SplashScreen | Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint};
     remplit(f, w);
     return w;
 }
