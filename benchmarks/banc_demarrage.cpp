@@ -17,7 +17,7 @@ using horloge = std::chrono::steady_clock;
 
 struct mesure {
     double ms = 0;
-    double pss = 0;      // megabytes
+    double pss = 0;     // megabytes
     double travail = 0; // processor time, ms
 };
 
@@ -97,7 +97,8 @@ int main() {
     }
     const double delai = mediane(delais);
     constexpr std::array noms{"Qt nu", "Qt nu, un document ouvert", "programme"};
-    std::printf("médianes de %d démarrages ; délai compté %.1f ms, retranché des rapports\n", repetitions, delai);
+    std::printf("médianes de %d démarrages ; délai compté %.1f ms, retranché des rapports\n", repetitions,
+                delai);
     for (std::size_t p = 0; p < programmes.size(); ++p)
         std::printf("%-26s %6.1f ms, processeur %5.1f ms, PSS %4.1f Mo\n", noms[p], mediane(durees[p]),
                     mediane(travaux[p]), mediane(memoires[p]));

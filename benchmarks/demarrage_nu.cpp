@@ -1,5 +1,5 @@
-// The least a Qt program with a multi-document window can be, with a document or without: what the start-up is
-// measured against. Tells on standard output when it is idle, and waits to be ended.
+// The least a Qt program with a multi-document window can be, with a document or without: what the start-up
+// is measured against. Tells on standard output when it is idle, and waits to be ended.
 #include "oisif.h"
 
 #include <QApplication>
