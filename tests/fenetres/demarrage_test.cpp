@@ -162,7 +162,7 @@ TEST_F(fin_du_programme, a_failure_shows_one_box_freezes_the_program_and_ends_it
     const auto echoue = [this] {
         clique("frminterface", "barchoix(2)");
         dans_telescope("Equatorial");
-        QTimer::singleShot(50, [this] {
+        QTimer::singleShot(50, [] {
             auto* boite = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             if (!boite || QApplication::activePopupWidget())
                 return;

@@ -171,6 +171,9 @@ TEST_F(genres, values_texts_and_places) {
     QTest::keyClick(w, Qt::Key_Return);
     QTest::keyClicks(w, "3");
     EXPECT_EQ(notes.lit(), "un\r\ndeux\r\n3");
+    notes.ecrit("trois\nquatre");
+    EXPECT_EQ(w->toPlainText(), "trois\nquatre");
+    EXPECT_EQ(notes.lit(), "trois\nquatre") << "no echo";
     chk.deplace(3000, 900);
     EXPECT_EQ(le<QCheckBox>("chk")->pos(), QPoint(200, 60));
     chk.actif(false);
