@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <string>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
@@ -16,7 +17,8 @@ using horloge = std::chrono::steady_clock;
 
 struct mesure {
     double ms = 0;
-    double pss = 0; // megabytes
+    double pss = 0;     // megabytes
+    double travail = 0; // processor time, ms
 };
 
 double pss(pid_t pid) {
@@ -47,10 +49,13 @@ mesure demarre(const char* programme) {
     char octet = 0;
     const bool pret = read(tube[0], &octet, 1) == 1;
     const std::chrono::duration<double, std::milli> duree = horloge::now() - debut;
-    const mesure m{duree.count(), pss(pid)};
+    mesure m{duree.count(), pss(pid)};
     close(tube[0]);
     kill(pid, SIGKILL);
-    waitpid(pid, nullptr, 0);
+    rusage usage{};
+    wait4(pid, nullptr, 0, &usage);
+    for (const auto& t : {usage.ru_utime, usage.ru_stime})
+        m.travail += static_cast<double>(t.tv_sec) * 1e3 + static_cast<double>(t.tv_usec) / 1e3;
     if (!pret) {
         std::fprintf(stderr, "banc_demarrage : %s n'a pas démarré\n", programme);
         std::exit(1);
@@ -75,28 +80,30 @@ double mediane(std::vector<double> v) {
 } // namespace
 
 int main() {
-    constexpr int repetitions = 15;
-    std::vector<double> nus;
-    std::vector<double> pleins;
+    constexpr int repetitions = 21;
+    constexpr std::array programmes{NU, DOCUMENT, PLEIN};
+    std::array<std::vector<double>, 3> durees;
+    std::array<std::vector<double>, 3> travaux;
+    std::array<std::vector<double>, 3> memoires;
     std::vector<double> delais;
-    std::vector<double> memoires;
-    std::vector<double> memoires_nues;
     for (int i = 0; i < repetitions; ++i) {
-        const auto nu = demarre(NU);
-        const auto plein = demarre(PLEIN);
-        nus.push_back(nu.ms);
-        memoires_nues.push_back(nu.pss);
-        pleins.push_back(plein.ms);
-        memoires.push_back(plein.pss);
+        for (std::size_t p = 0; p < programmes.size(); ++p) {
+            const auto m = demarre(programmes[p]);
+            durees[p].push_back(m.ms);
+            travaux[p].push_back(m.travail);
+            memoires[p].push_back(m.pss);
+        }
         delais.push_back(delai_compte());
     }
-    const double nu = mediane(nus);
     const double delai = mediane(delais);
-    const double plein = mediane(pleins);
-    std::printf(
-        "démarrage (médianes de %d) : Qt nu %.1f ms, programme %.1f ms dont %.1f ms de délai compté ; "
-        "sans lui %.2f fois Qt nu\n",
-        repetitions, nu, plein, delai, (plein - delai) / nu);
-    std::printf("mémoire PSS : Qt nu %.1f Mo, programme %.1f Mo\n", mediane(memoires_nues),
-                mediane(memoires));
+    constexpr std::array noms{"Qt nu", "Qt nu, un document ouvert", "programme"};
+    std::printf("médianes de %d démarrages ; délai compté %.1f ms, retranché des rapports\n", repetitions,
+                delai);
+    for (std::size_t p = 0; p < programmes.size(); ++p)
+        std::printf("%-26s %6.1f ms, processeur %5.1f ms, PSS %4.1f Mo\n", noms[p], mediane(durees[p]),
+                    mediane(travaux[p]), mediane(memoires[p]));
+    for (std::size_t p = 0; p < 2; ++p)
+        std::printf("programme / %s : %.2f en durée, %.2f en temps de processeur\n", noms[p],
+                    (mediane(durees[2]) - delai) / mediane(durees[p]),
+                    (mediane(travaux[2]) - delai) / mediane(travaux[p]));
 }

@@ -162,7 +162,7 @@ TEST_F(fin_du_programme, a_failure_shows_one_box_freezes_the_program_and_ends_it
     const auto echoue = [this] {
         clique("frminterface", "barchoix(2)");
         dans_telescope("Equatorial");
-        QTimer::singleShot(50, [this] {
+        QTimer::singleShot(50, [] {
             auto* boite = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             if (!boite || QApplication::activePopupWidget())
                 return;
@@ -174,6 +174,28 @@ TEST_F(fin_du_programme, a_failure_shows_one_box_freezes_the_program_and_ends_it
         base::fatale(base::cause::division_par_zero, "essai");
     };
     EXPECT_EXIT(echoue(), testing::ExitedWithCode(1), "Velmoria . division par zéro : essai\nfin : \\.");
+}
+
+class sans_donnees : public essais::fenetres {
+  protected:
+    sans_donnees() : fenetres("1", "/nulle-part") {}
+    void SetUp() override { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
+};
+
+TEST_F(sans_donnees, the_box_names_the_file_and_lies_under_no_splash) {
+    const auto demarre = [this] {
+        QTimer::singleShot(50, [] {
+            auto* boite = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            for (const auto* w : QApplication::topLevelWidgets())
+                if (w != boite && w->isVisible())
+                    std::fprintf(stderr, "%s\n", qPrintable(w->objectName()));
+            std::fprintf(stderr, "%s\n", qPrintable(boite->text()));
+            boite->accept();
+        });
+        s->demarre();
+    };
+    EXPECT_EXIT(demarre(), testing::ExitedWithCode(1),
+                "introuvable : [^\n]*\nfichier introuvable : /nulle-part/[^\n]*\n$");
 }
 
 TEST_F(fin_du_programme, a_second_failure_ends_at_once) {

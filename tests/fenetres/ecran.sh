@@ -13,4 +13,5 @@ while [ ! -s "$numero" ]; do
     fi
     sleep 0.05
 done
+export LSAN_OPTIONS="suppressions=$(dirname "$0")/fuites.txt:print_suppressions=0"
 DISPLAY=:$(cat "$numero") QT_QPA_PLATFORM=xcb "$@"

@@ -34,6 +34,10 @@ constinit entree mnu_trait{fiche_essai, "mnu_trait", {.cadre = &mnu, .traits = s
 constinit entree mnu_deux{fiche_essai, "mnu_deux", {.legende = "deux", .cadre = &mnu}};
 constinit entree mnu_fils{fiche_essai, "mnu_fils", {.legende = "fils", .cadre = &mnu_deux}};
 
+constinit panneau fiche_fermee{
+    "frmfermee", "Sans fermeture", 3000, 3000, {.boite_de_fermeture = fermeture::aucune}};
+constinit minuteur tim{fiche_fermee, "tim", {.intervalle = 10}};
+
 class genres : public essais::fenetres {
   protected:
     void SetUp() override {
@@ -127,6 +131,36 @@ TEST_F(genres, unloading_brings_the_design_back_on_screen) {
     EXPECT_EQ(le<QListWidget>("lbliste")->count(), 0);
 }
 
+TEST_F(genres, a_window_without_a_close_box_stays) {
+    fiche_fermee.construit(shell::liste(tim));
+    fiche_fermee.montre();
+    auto* w = static_cast<QMdiSubWindow*>(piece("frmfermee"));
+    EXPECT_FALSE(w->windowFlags() & Qt::WindowCloseButtonHint);
+    EXPECT_EQ(w->size(), QSize(200, 200));
+    w->close();
+    EXPECT_TRUE(w->isVisible());
+    static_cast<QMdiSubWindow*>(piece("frmessai"))->close();
+    EXPECT_FALSE(fiche_essai.est_charge());
+}
+
+// The tick comes from the event loop again and again, never inside itself, and not once it is off.
+TEST_F(genres, a_timer_on_the_event_loop) {
+    fiche_fermee.construit(shell::liste(tim));
+    int tics = 0;
+    int profondeur = 0;
+    tim.au_tic([&] {
+        EXPECT_EQ(++profondeur, 1);
+        QTest::qWait(30); // longer than its interval
+        --profondeur;
+        if (++tics == 3)
+            tim.marche(false);
+    });
+    tim.marche(true);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return tics == 3; }));
+    QTest::qWait(50);
+    EXPECT_EQ(tics, 3);
+}
+
 TEST_F(genres, values_texts_and_places) {
     jauge.valeur(100);
     EXPECT_EQ(le<QProgressBar>("jauge")->value() * 4, le<QProgressBar>("jauge")->maximum());
@@ -137,6 +171,9 @@ TEST_F(genres, values_texts_and_places) {
     QTest::keyClick(w, Qt::Key_Return);
     QTest::keyClicks(w, "3");
     EXPECT_EQ(notes.lit(), "un\r\ndeux\r\n3");
+    notes.ecrit("trois\nquatre");
+    EXPECT_EQ(w->toPlainText(), "trois\nquatre");
+    EXPECT_EQ(notes.lit(), "trois\nquatre") << "no echo";
     chk.deplace(3000, 900);
     EXPECT_EQ(le<QCheckBox>("chk")->pos(), QPoint(200, 60));
     chk.actif(false);

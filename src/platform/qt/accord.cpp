@@ -148,8 +148,7 @@ void image(const controle& c, QObject* piece) {
     if (c.regarde_image().numero)
         w->montre(pixels_de(c.regarde_image()));
     else if (*c.comme_dessine().image)
-        w->montre(
-            decor(c.comme_dessine().image, rectangle(c.regarde_place()).size(), w->devicePixelRatioF()));
+        w->montre(decor(c.comme_dessine().image, w->devicePixelRatioF()));
     else
         w->montre({});
 }
@@ -176,7 +175,9 @@ void place(const controle& c, QObject* piece) {
 } // namespace
 
 void accorde(const controle& c, QObject* piece, aspect a) {
-    const QSignalBlocker sans_echo{piece->isWidgetType() ? piece : nullptr};
+    // Actions must tell their menus, and toolbars that they are seen; the others' signals stand for the user.
+    const bool dit_un_acte = piece->isWidgetType() && a != aspect::visible && a != aspect::actif;
+    const QSignalBlocker sans_echo{dit_un_acte ? piece : nullptr};
     switch (a) {
     case aspect::texte:
         return texte(c, piece);

@@ -34,6 +34,7 @@ QWidget* texte(champ_texte& c, QWidget* parent) {
         auto* w = new QPlainTextEdit{parent};
         w->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
         w->setTabChangesFocus(true);
+        w->setContextMenuPolicy(Qt::NoContextMenu); // its entries would not be in French
         QObject::connect(w, &QPlainTextEdit::textChanged, w, [w, &c] {
             auto t = w->toPlainText();
             c.saisit(lu(t.replace("\n", "\r\n")));
@@ -41,7 +42,7 @@ QWidget* texte(champ_texte& c, QWidget* parent) {
         return w;
     }
     auto* w = new QLineEdit{parent};
-    w->setContextMenuPolicy(Qt::NoContextMenu); // its entries would not be in French
+    w->setContextMenuPolicy(Qt::NoContextMenu);
     w->setAlignment((c.a(centre) ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignVCenter);
     QObject::connect(w, &QLineEdit::textEdited, w, [&c](const QString& t) { c.saisit(lu(t)); });
     return w;
@@ -94,7 +95,6 @@ template <class W> QWidget* barre(champ_barre& c, QWidget* parent) {
     w->setPageStep(d.grand);
     w->setInvertedControls(false); // else the right arrow moves a scroll bar to the left
     w->setFocusPolicy(Qt::StrongFocus);
-    w->setContextMenuPolicy(Qt::NoContextMenu);
     if constexpr (std::is_same_v<W, QSlider>) {
         w->setTickPosition(QSlider::TicksBelow);
         w->setTickInterval(1);

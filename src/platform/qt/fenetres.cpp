@@ -17,6 +17,7 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <QWindow>
+#include <utility>
 
 namespace plateforme::qt {
 
@@ -106,7 +107,12 @@ QToolBar* barre_outils(QMainWindow& w, const controle& c) {
 }
 
 QAction* outil(QToolBar& barre, champ_outil& c) {
-    auto* action = barre.addAction(icone(c.comme_dessine().valeur), affiche(c.regarde_texte()));
+    auto* action = barre.addAction(affiche(c.regarde_texte()));
+    // Icons are read when their bar is first seen: at start most bars are hidden.
+    QObject::connect(&barre, &QToolBar::visibilityChanged, action, [action, &c](bool visible) {
+        if (visible && action->icon().isNull())
+            action->setIcon(icone(c.comme_dessine().valeur));
+    });
     auto* touche = barre.widgetForAction(action);
     touche->installEventFilter(&sans_bulle);
     touche->setObjectName(affiche(c.nom()));
@@ -157,7 +163,9 @@ QWidget* enfant(fenetre& f, QMdiArea& zone) {
 }
 
 QWidget* accueil(fenetre& f) {
-    auto* w = new QWidget{nullptr, Qt::SplashScreen | Qt::FramelessWindowHint};
+    // On screen at once: a window manager would take longer than the splash is there for.
+    auto* w =
+        new QWidget{nullptr, Qt::SplashScreen | Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint};
     remplit(f, w);
     return w;
 }
@@ -184,19 +192,15 @@ void donne_le_focus(fenetre& f) {
 void accorde_taille(fenetre& f) {
     const QSize taille{pixels(f.fiche->regarde_largeur()), pixels(f.fiche->regarde_hauteur())};
     auto& w = *f.cadre;
-    if (f.fiche->options().principal) {
-        if (f.fiche->est_maximise() != w.isMaximized())
-            w.setWindowState(w.windowState() ^ Qt::WindowMaximized);
-        // The store's size is the one asked for; the observer's own stays until another is asked for.
-        if (w.property("taille").toSize() != taille) {
-            w.setProperty("taille", taille);
-            w.resize(taille);
-        }
-    } else if (f.fiche->options().taille_fixe) {
+    if (f.fiche->options().taille_fixe) {
         w.setFixedSize(taille);
-    } else {
-        w.resize(taille);
+        return;
     }
+    if (f.fiche->est_maximise() != w.isMaximized())
+        w.setWindowState(w.windowState() ^ Qt::WindowMaximized);
+    // A size the observer gave it stays until the program asks for another.
+    if (std::exchange(f.demandee, taille) != taille)
+        w.resize(taille);
 }
 
 void montre(fenetre& f) {
@@ -223,7 +227,9 @@ std::unique_ptr<fenetre> cree_fenetre(panneau& p, QMdiArea* zone) {
     auto f = std::make_unique<fenetre>();
     f->fiche = &p;
     f->pieces.resize(p.controles().size());
-    f->cadre = p.options().principal ? principal(*f) : zone ? enfant(*f, *zone) : accueil(*f);
+    f->cadre = p.options().principal   ? principal(*f)
+               : p.options().sans_bord ? accueil(*f)
+                                       : enfant(*f, *zone);
     f->cadre->setObjectName(affiche(p.nom()));
     f->cadre->setAccessibleName(f->cadre->objectName());
     return f;

@@ -23,9 +23,11 @@ struct fenetre {
     QPointer<QWidget> cadre; ///< the main frame takes its child windows with it
     std::vector<QObject*> pieces;
     QMdiArea* zone = nullptr; ///< of the main frame: where child windows live
+    QSize demandee;           ///< the size last asked for by the program, where the observer may change it
 };
 
-/// Makes a panel's window, hidden. `zone` holds the child windows; null for the main frame and the splash.
+/// Makes a panel's window, hidden. `zone` holds the child windows; the main frame, which makes it, and the
+/// splash need none.
 std::unique_ptr<fenetre> cree_fenetre(shell::panneau& p, QMdiArea* zone);
 
 /// Caption, size, shown or hidden, as the store has them; all controls too when it comes on screen.

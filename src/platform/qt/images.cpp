@@ -4,8 +4,11 @@
 
 #include <QDir>
 #include <QImageReader>
+#include <array>
 #include <cmath>
+#include <fstream>
 #include <map>
+#include <string_view>
 #include <vector>
 
 namespace plateforme::qt {
@@ -22,15 +25,21 @@ double densite(const QImage& i) {
     return i.dotsPerMeterX() == supposee ? 96 : std::round(i.dotsPerMeterX() / pouces_par_metre);
 }
 
+// By its first bytes, and with the format named: to let Qt guess has it load all its picture plugins.
+QImage lit(const std::filesystem::path& chemin) {
+    std::array<char, 3> debut{};
+    std::ifstream{chemin, std::ios::binary}.read(debut.data(), debut.size());
+    const std::string_view signe{debut.data(), debut.size()};
+    const char* format = signe == "GIF" ? "gif" : signe == "\xFF\xD8\xFF" ? "jpeg" : nullptr;
+    return format ? QImageReader{QString::fromStdString(chemin.string()), format}.read() : QImage{};
+}
+
 } // namespace
 
 image charge(const std::filesystem::path& chemin) {
     if (!std::filesystem::exists(chemin))
         base::fatale(base::cause::fichier_introuvable, chemin.string());
-    QImageReader lecteur{QString::fromStdString(chemin.string())};
-    lecteur.setDecideFormatFromContent(true);
-    const auto format = lecteur.format();
-    const QImage lue = format == "gif" || format == "jpeg" ? lecteur.read() : QImage{};
+    const QImage lue = lit(chemin);
     if (lue.isNull())
         base::fatale(base::cause::image_illisible, chemin.string());
     const auto [place, nouvelle] = numeros.try_emplace(chemin, static_cast<int>(chargees.size()) + 1);
@@ -45,18 +54,19 @@ QPixmap pixels_de(const image& i) {
 }
 
 QIcon icone(int indice) {
-    const QDir dossier{":/icones"};
-    const auto noms = dossier.entryList({QString{"%1-*.png"}.arg(indice, 2, 10, QChar{'0'})});
+    static const auto noms = QDir{":/icones"}.entryList();
+    const auto debut = QString{"%1-"}.arg(indice, 2, 10, QChar{'0'});
     for (const auto& nom : noms)
-        if (!nom.contains('@'))
-            return QIcon{dossier.filePath(nom)};
+        if (nom.startsWith(debut) && !nom.contains('@'))
+            return QIcon{":/icones/" + nom};
     return {};
 }
 
 QIcon face(const char* nom) { return QIcon{QString{":/boutons/%1.png"}.arg(nom)}; }
 
-QPixmap decor(const char* nom, QSize taille, double densite) {
-    return QIcon{QString{":/%1.png"}.arg(nom)}.pixmap(taille, densite);
+QPixmap decor(const char* nom, double densite) {
+    const QString fine{QString{":/%1@2x.png"}.arg(nom)};
+    return QPixmap{densite > 1 && QFile::exists(fine) ? fine : QString{":/%1.png"}.arg(nom)};
 }
 
 } // namespace plateforme::qt

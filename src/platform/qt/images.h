@@ -19,8 +19,8 @@ QPixmap pixels_de(const image& i);
 /// An icon of the toolbars by its index; none if there is no such icon.
 QIcon icone(int indice);
 
-/// The face of a button, and a full-size picture, by their design names.
+/// The face of a button, and a full-size picture for a screen of that density, by their design names.
 QIcon face(const char* nom);
-QPixmap decor(const char* nom, QSize taille, double densite);
+QPixmap decor(const char* nom, double densite);
 
 } // namespace plateforme::qt

@@ -21,7 +21,7 @@ seance::seance(int argc, char** argv, composition c) : argc_(argc), c_(std::move
     prend_les_images();
     habille(*application_);
     QApplication::setApplicationName("Velmoria");
-    QApplication::setWindowIcon(QIcon{QString{":/%1.png"}.arg(c_.icone)});
+    QApplication::setWindowIcon(QIcon{QString{":/%1-64.png"}.arg(c_.icone)});
 
     boucle_ = std::make_unique<boucle_qt>(c_.attente, c_.apres_cession);
     vue_ = std::make_unique<vue_qt>();

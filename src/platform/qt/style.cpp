@@ -8,8 +8,8 @@ namespace plateforme::qt {
 
 namespace {
 
-// Fusion without its animations, since a repaint while a motor runs is a late pulse, and with plain buttons
-// in its boxes.
+// Fusion without its animations, since a repaint while a motor runs is a late pulse, with plain buttons in
+// its boxes, and without the context menu of scroll bars, which is not in French.
 class style_calme final : public QProxyStyle {
   public:
     style_calme() : QProxyStyle(QStyleFactory::create("Fusion")) {}
@@ -19,6 +19,7 @@ class style_calme final : public QProxyStyle {
         case SH_Widget_Animate:
         case SH_Widget_Animation_Duration:
         case SH_DialogButtonBox_ButtonsHaveIcons:
+        case SH_ScrollBar_ContextMenu:
             return 0;
         default:
             return QProxyStyle::styleHint(indice, option, widget, retour);

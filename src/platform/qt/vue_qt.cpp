@@ -24,7 +24,7 @@ void vue_qt::panneau_change(const shell::panneau& p) {
             return;
         // Panels are declared as variables; the store hands them out for looking only.
         auto& fiche = const_cast<shell::panneau&>(p);
-        f = fenetres_.emplace_back(cree_fenetre(fiche, p.options().sans_bord ? nullptr : zone_)).get();
+        f = fenetres_.emplace_back(cree_fenetre(fiche, zone_)).get();
         if (p.options().principal)
             zone_ = f->zone;
     }
