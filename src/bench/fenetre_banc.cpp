@@ -242,6 +242,9 @@ void fenetre_banc::rafraichit() {
         ecrit(axes_[i].cru, compte ? angle(crus[i]) : QStringLiteral("—"));
         cadrans_[i]->montre(reels[i]);
     }
+    const auto t = horloge_.maintenant();
+    ecrit(heure_, QString::asprintf("%04d-%02d-%02d %02d:%02d:%02d", t.annee, t.mois, t.jour, t.heure,
+                                    t.minute, t.seconde));
     ecrit(retard_,
           QString::number(static_cast<double>(etabli_.pire_retard()) / 1000.0, 'f', 1).replace('.', ',') +
               " µs");

@@ -21,7 +21,7 @@ inline constinit champ_texte txtdec_min{fiche, "txtdec_min", {1530, 540, 1230, 3
 inline constinit champ_etiquette lbldec_min{fiche, "lbldec_min", {2805, 585, 420, 270}, {.legende = "min"}};
 
 inline constinit champ_etiquette Label1{
-    fiche, "Label1", {3480, 165, 1260, 270}, {.legende = "Heure sidérale"}};
+    fiche, "Label1", {3300, 165, 1440, 270}, {.legende = "Heure sidérale"}};
 inline constinit champ_texte txth2{fiche, "txth2", {4770, 120, 480, 345}, {.traits = centre}};
 inline constinit champ_texte txtmin2{fiche, "txtmin2", {5295, 120, 480, 345}, {.traits = centre}};
 inline constinit champ_texte txts2{fiche, "txts2", {5820, 120, 480, 345}, {.traits = centre}};
@@ -34,7 +34,7 @@ inline constinit champ_texte txtamin{fiche, "txtamin", {2985, 1320, 1215, 345}};
 inline constinit champ_texte txthh{fiche, "txthh", {4500, 1320, 540, 345}, {.traits = centre}};
 inline constinit champ_texte txthmin{fiche, "txthmin", {5085, 1320, 1215, 345}};
 inline constinit champ_etiquette Label5{
-    fiche, "Label5", {120, 1785, 2220, 270}, {.legende = "Nombre de pas à effectuer"}};
+    fiche, "Label5", {120, 1695, 2220, 450}, {.legende = "Nombre de pas à effectuer"}};
 inline constinit champ_texte txtna{fiche, "txtna", {2400, 1740, 1800, 345}};
 inline constinit champ_texte txtnh{fiche, "txtnh", {4500, 1740, 1800, 345}};
 inline constinit champ_etiquette Label6{

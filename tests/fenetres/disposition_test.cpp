@@ -3,6 +3,7 @@
 
 #include "piloting/frmaltazpilot_champs.h"
 #include "piloting/frmequapilot_champs.h"
+#include "piloting/frmraquette_champs.h"
 
 #include <QGroupBox>
 #include <QLabel>
@@ -58,16 +59,22 @@ class disposition : public essais::fenetres, public testing::WithParamInterface<
     }
 };
 
+// Panels with a section that opens to the side, and their width then.
+const std::pair<const shell::panneau*, int> sections_ouvertes[] = {
+    {&frmaltazpilot::fiche, frmaltazpilot::largeur_ouverte},
+    {&frmequapilot::fiche, frmequapilot::largeur_ouverte},
+    {&frmraquette::fiche, frmraquette::largeur_ouverte},
+};
+
 TEST_P(disposition, child_windows) {
     ASSERT_EQ(principale()->devicePixelRatioF(), std::atof(GetParam()));
     for (auto* p : programme::registre().panneaux) {
         if (p->options().principal || p->options().sans_bord)
             continue;
         p->montre();
-        if (p == &frmaltazpilot::fiche)
-            p->largeur(frmaltazpilot::largeur_ouverte);
-        if (p == &frmequapilot::fiche)
-            p->largeur(frmequapilot::largeur_ouverte);
+        for (const auto& [fiche, largeur] : sections_ouvertes)
+            if (p == fiche)
+                p->largeur(largeur);
         verifie(std::string{p->nom()}.c_str());
     }
 }

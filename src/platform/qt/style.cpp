@@ -25,6 +25,10 @@ class style_calme final : public QProxyStyle {
             return QProxyStyle::styleHint(indice, option, widget, retour);
         }
     }
+    int pixelMetric(PixelMetric mesure, const QStyleOption* option, const QWidget* widget) const override {
+        // A pixel less than the style's own: the panels' outer sizes leave their frames no more.
+        return mesure == PM_MdiSubWindowFrameWidth ? 3 : QProxyStyle::pixelMetric(mesure, option, widget);
+    }
 };
 
 QPalette couleurs() {
