@@ -1,8 +1,10 @@
 #include "catalogue/catalogue.h"
 
+#include "base/nombre.h"
 #include "platform/plateforme.h"
 #include "settings/valeurs.h"
 
+#include <cmath>
 #include <string_view>
 #include <utility>
 
@@ -102,6 +104,28 @@ bool a_photographie(const std::string& nom) {
 partie partage(entier32 coordonnee) {
     const entier32 entiers = coordonnee / 600;
     return {entiers, (coordonnee - entiers * 600).reel() / 10};
+}
+
+std::string texte_ad(const partie& p) {
+    return base::texte_signe(p.entiers.reel()) + "h" + base::texte_signe(p.minutes) + "'";
+}
+
+std::string texte_dec(const partie& p) {
+    return base::texte_signe(p.entiers.reel()) + "°" + base::texte_signe(p.minutes) + "'";
+}
+
+std::string texte_dec_objet(entier32 dec) {
+    auto p = partage(dec);
+    if (p.entiers < 0)
+        p.minutes = std::abs(p.minutes);
+    return texte_dec(p);
+}
+
+std::string texte_dec_etoile(entier32 dec) {
+    auto p = partage(dec);
+    if (p.entiers < 0) // in whole tenths, so that one decimal is shown
+        p.minutes = (entier32{600} + (dec - p.entiers * 600)).reel() / 10;
+    return texte_dec(p);
 }
 
 } // namespace catalogue

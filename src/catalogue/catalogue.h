@@ -109,4 +109,15 @@ struct partie {
 };
 partie partage(base::entier32 coordonnee);
 
+/// A right ascension and a declination as labels show them, a blank in the sign's place of each number:
+/// " 5h 30.5'", "-12°-30'".
+std::string texte_ad(const partie& p);
+std::string texte_dec(const partie& p);
+
+/// The declination of an object chosen: with whole degrees below 0 the minutes lose their sign, "-12° 30'".
+/// Under one degree they keep it: " 0°-30'".
+std::string texte_dec_objet(base::entier32 dec);
+/// The declination of a star aligned on: with whole degrees below 0 the minutes are 60 less their size.
+std::string texte_dec_etoile(base::entier32 dec);
+
 } // namespace catalogue

@@ -123,6 +123,10 @@ void comptepasalt() { comptealt += sensplus ? entier32{1} : entier32{-1}; }
 
 void attente(entier32 n) { compte_jusqu_a(n, plateforme::ns_par_compte); }
 
+void attentepointage(entier32 n) {
+    plateforme::courante.boucle->attend(std::int64_t{n.valeur()} * plateforme::ns_par_compte);
+}
+
 void jogequa_az() { jog(tempoequa, nullptr); }
 void jogequa_alt() { jog(tempoequa, nullptr); }
 void jogaltaz_az() { jog(tempoaltaz, comptepasaz); }

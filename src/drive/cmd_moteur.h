@@ -27,6 +27,10 @@ void comptepasalt();
 /// The counted delay of n + 1 counts of the general loop (`ns_par_compte`); none for a negative n.
 void attente(entier32 n);
 
+/// The counted delay of the slews: n counts of the general loop, one less than `attente`; none for 0 and
+/// less.
+void attentepointage(entier32 n);
+
 /// Jogs: run until `cmdsens` is 0 at the head of the loop. The caller sets `cmdsens` first. Those of the
 /// alt-azimuth mount count their steps.
 void jogequa_az();

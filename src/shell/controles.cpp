@@ -232,7 +232,8 @@ void champ_liste::au_clic_droit(std::function<void()> f) { r().droit = std::move
 
 // A line a person could point at, or none.
 bool champ_liste::selectionne(int k) {
-    if (!joignable() || k < -1 || k >= static_cast<int>(e().lignes.size()))
+    const int premiere = a(style::sans_vide) ? 0 : -1;
+    if (!joignable() || k < premiere || k >= static_cast<int>(e().lignes.size()))
         return false;
     change(&etat::position, k, aspect::position);
     return true;

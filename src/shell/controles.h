@@ -369,7 +369,7 @@ template <class T, std::size_t N> class tableau {
     std::array<T, N> elements_;
 };
 
-/// The controls of a panel in order, arrays taken apart. Their order is the tab key's and, from back to
+/// The controls of a panel in order, arrays and groups (which list their own) taken apart. Their order is the tab key's and, from back to
 /// front, the painter's.
 template <class... C> std::vector<controle*> liste(C&... c) {
     std::vector<controle*> tous;
@@ -377,6 +377,9 @@ template <class... C> std::vector<controle*> liste(C&... c) {
         if constexpr (requires { un.begin(); })
             for (auto& element : un)
                 tous.push_back(&element);
+        else if constexpr (requires { un.controles(); })
+            for (auto* element : un.controles())
+                tous.push_back(element);
         else
             tous.push_back(&un);
     };

@@ -10,6 +10,8 @@
 #include "platform/image.h"
 #include "platform/plateforme.h"
 #include "pointing/etat_pointage.h"
+#include "pointing/frmaltazpointage_champs.h"
+#include "pointing/frmequapointage_champs.h"
 #include "settings/etat_suivi.h"
 #include "settings/frmconfig_champs.h"
 #include "settings/frmequaconfig_champs.h"
@@ -79,9 +81,11 @@ void mode_ordinateur() {
 // Every working panel, in the order in which paddle mode closes them.
 void decharge_panneaux() {
     frmaltazpilot::fiche.decharge();
+    frmaltazpointage::fiche.decharge();
     frmaltazsuivi::fiche.decharge();
     frmconfig::fiche.decharge();
     frmequapilot::fiche.decharge();
+    frmequapointage::fiche.decharge();
     frmequaconfig::fiche.decharge();
 }
 
@@ -96,6 +100,7 @@ void mode_equatorial() {
     barequa.visible(true);
     baraltaz.visible(false);
     frmaltazpilot::fiche.decharge();
+    frmaltazpointage::fiche.decharge();
     frmaltazsuivi::fiche.decharge();
     frmconfig::fiche.decharge();
     frmcoord::fiche.decharge();
@@ -109,6 +114,7 @@ void montre_barre_altaz() {
 
 void decharge_equatorial() {
     frmequapilot::fiche.decharge();
+    frmequapointage::fiche.decharge();
     frmequaconfig::fiche.decharge();
 }
 
@@ -196,11 +202,13 @@ void branche_barres() {
     barequa_boutons(1).au_clic(mode_ordinateur);
     barequa_boutons(2).au_clic(mode_raquette);
     barequa_boutons(3).au_clic([] { pilote(frmequapilot::fiche); });
+    barequa_boutons(4).au_clic([] { frmequapointage::fiche.montre(); });
     barequa_boutons(5).au_clic([] { frmequaconfig::fiche.montre(); });
 
     baraltaz_boutons(1).au_clic(mode_ordinateur);
     baraltaz_boutons(2).au_clic(mode_raquette);
     baraltaz_boutons(3).au_clic([] { pilote(frmaltazpilot::fiche); });
+    baraltaz_boutons(4).au_clic([] { frmaltazpointage::fiche.montre(); });
     baraltaz_boutons(6).au_clic([] { frmconfig::fiche.montre(); });
     baraltaz_boutons(7).au_clic(bascule_coordonnees);
 
@@ -215,9 +223,11 @@ void branche_menu() {
     Quitter.au_clic(quitte);
     Equatorial.au_clic(mode_equatorial);
     mnupilotageequa.au_clic([] { frmequapilot::fiche.montre(); });
+    mnupointequa.au_clic([] { frmequapointage::fiche.montre(); });
     mnuparaequa.au_clic([] { frmequaconfig::fiche.montre(); });
     altazimutal.au_clic(mode_altazimutal_par_menu);
     mnupilotagealtaz.au_clic([] { frmaltazpilot::fiche.montre(); });
+    mnupointaltaz.au_clic([] { frmaltazpointage::fiche.montre(); });
     mnuparaaltaz.au_clic([] {
         frmconfig::fiche.montre();
         mnusuivi.actif(true);

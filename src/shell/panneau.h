@@ -68,6 +68,7 @@ enum style : unsigned {
     sans_vide = 256,  ///< a list whose position cannot be -1
     fond = 512,       ///< lies behind the other controls
     aplat = 1024,     ///< a flat grey ground
+    traverse = 2048,  ///< the mouse goes through it to what lies behind
 };
 
 /// What a control is before anything has touched it.

@@ -9,6 +9,12 @@
 #include "piloting/frmraquette_champs.h"
 #include "piloting/jeu.h"
 #include "pointing/etat_pointage.h"
+#include "pointing/frmDepl.h"
+#include "pointing/frmDepl_champs.h"
+#include "pointing/frmaltazpointage.h"
+#include "pointing/frmaltazpointage_champs.h"
+#include "pointing/frmequapointage.h"
+#include "pointing/frmequapointage_champs.h"
 #include "settings/etat_suivi.h"
 #include "settings/frmconfig.h"
 #include "settings/frmconfig_champs.h"
@@ -42,6 +48,9 @@ std::vector<shell::panneau*> panneaux() {
     frmconfig::fiche.construit(frmconfig::controles());
     frmequaconfig::fiche.construit(frmequaconfig::controles());
     frmaltazsuivi::fiche.construit(frmaltazsuivi::controles());
+    frmaltazpointage::fiche.construit(frmaltazpointage::controles());
+    frmequapointage::fiche.construit(frmequapointage::controles());
+    frmDepl::fiche.construit(frmDepl::controles());
 
     frminterface::branche();
     frmaltazpilot::branche();
@@ -50,10 +59,24 @@ std::vector<shell::panneau*> panneaux() {
     frmcoord::branche();
     frmconfig::branche();
     frmequaconfig::branche();
+    frmaltazpointage::branche();
+    frmequapointage::branche();
+    frmDepl::branche();
 
-    return {&frminterface::fiche,  &frmintro::fiche,      &frmaltazpilot::fiche,
-            &frmequapilot::fiche,  &frmcoord::fiche,      &frmconfig::fiche,
-            &frmequaconfig::fiche, &frmaltazsuivi::fiche, &frmraquette::fiche};
+    return {
+        &frminterface::fiche,
+        &frmintro::fiche,
+        &frmcoord::fiche,
+        &frmconfig::fiche,
+        &frmequaconfig::fiche,
+        &frmaltazpilot::fiche,
+        &frmequapilot::fiche,
+        &frmraquette::fiche,
+        &frmaltazpointage::fiche,
+        &frmequapointage::fiche,
+        &frmDepl::fiche,
+        &frmaltazsuivi::fiche,
+    };
 }
 
 #define VARIABLE(module, nom) shell::nomme(#nom, module::nom)
@@ -103,8 +126,24 @@ std::vector<shell::variable> variables() {
         VARIABLE(general, ecartalt),
         VARIABLE(piloting, backlashaz),
         VARIABLE(piloting, backlashalt),
+        VARIABLE(pointing, ciblead),
+        VARIABLE(pointing, cibledec),
+        VARIABLE(pointing, reticulead),
+        VARIABLE(pointing, reticuledec),
+        VARIABLE(pointing, reticulevisible),
         VARIABLE(pointing, panneaualtaz),
+        VARIABLE(pointing, modepointage),
         VARIABLE(pointing, stoppointage),
+        VARIABLE(pointing, ciblehr),
+        VARIABLE(pointing, ciblemin),
+        VARIABLE(pointing, cibledeg),
+        VARIABLE(pointing, cibledegmin),
+        VARIABLE(pointing, cibleaz),
+        VARIABLE(pointing, ciblealt),
+        VARIABLE(pointing, distaz),
+        VARIABLE(pointing, distalt),
+        VARIABLE(pointing, invpointad),
+        VARIABLE(pointing, invpointdec),
         VARIABLE(tracking, suiviouvert),
         VARIABLE(tracking, objetchoisi),
         VARIABLE(cmd_moteur, pasencodeaz),

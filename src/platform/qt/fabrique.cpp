@@ -167,6 +167,8 @@ QWidget* fabrique(controle& c, QWidget* parent) {
         police.setBold(true);
         w->setFont(police);
     }
+    if (c.a(traverse))
+        w->setAttribute(Qt::WA_TransparentForMouseEvents);
     if (c.a(fond))
         w->lower();
     return w;

@@ -1,0 +1,47 @@
+#include "pointing/pointage.h"
+
+#include "base/nombre.h"
+#include "platform/plateforme.h"
+#include "pointing/etat_pointage.h"
+#include "settings/valeurs.h"
+
+#include <cmath>
+
+namespace pointing {
+
+using base::entier16;
+using base::entier32;
+using base::texte_signe;
+
+void charge_reglages(champs_pointage& c, const std::string& fichier) {
+    for (auto* liste : {&c.cbpointaz, &c.cbpointalt})
+        liste->ajoute({"1", "2", "3", "4", "5"});
+    valeurs::lecteur f{plateforme::fichier_donnees(fichier)};
+    const double az = f.nombre();
+    const double alt = f.nombre();
+    c.cbpointaz.position(entier32{az - 1});
+    c.cbpointalt.position(entier32{alt - 1});
+}
+
+void enregistre_vitesses(champs_pointage& c, const std::string& fichier) {
+    valeurs::ecrivain f;
+    f.nombre(entier32{c.cbpointaz.position()} + entier32{1});
+    f.nombre(entier32{c.cbpointalt.position()} + entier32{1});
+    f.enregistre(plateforme::fichier_donnees(fichier));
+}
+
+double entiers(shell::champ_texte& champ) { return std::floor(champ.nombre()); }
+
+void affiche_ad(catalogue::champs_selecteur& c, double heures, double minutes) {
+    c.tADpos.legende(texte_signe(heures) + "h" + texte_signe(minutes) + "'");
+}
+
+entier16 entre_declinaison(catalogue::champs_selecteur& c) {
+    const entier16 degres{entiers(c.tDec(0))};
+    const entier16 minutes{entiers(c.tDec(1))};
+    cibledec = entier32{degres * entier16{60}} * 10 + entier32{minutes} * 10;
+    c.tdcpos.legende(texte_signe(degres.reel()) + "°" + texte_signe(minutes.reel()) + "'");
+    return degres;
+}
+
+} // namespace pointing
