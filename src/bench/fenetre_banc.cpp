@@ -1,6 +1,7 @@
 #include "bench/fenetre_banc.h"
 
 #include "bench/cadran.h"
+#include "bench/raquette_banc.h"
 #include "bench/unites.h"
 #include "bench/voyants.h"
 #include "platform/qt/mesures.h"
@@ -61,12 +62,17 @@ QPushButton* bouton(const char* nom, const QString& texte) {
 fenetre_banc::fenetre_banc(etabli& e, horloge_banc& h) : etabli_(e), horloge_(h) {
     setObjectName("banc");
     setWindowTitle("Velmoria : banc d'essai");
-    auto* colonne = new QVBoxLayout{this};
-    colonne->setSizeConstraint(QLayout::SetFixedSize);
+    auto* rang = new QHBoxLayout{this};
+    rang->setSizeConstraint(QLayout::SetFixedSize);
+    auto* colonne = new QVBoxLayout;
     colonne->addWidget(fait_lignes_du_port());
     colonne->addWidget(fait_axes());
     colonne->addWidget(fait_horloge());
     colonne->addWidget(fait_mesures());
+    rang->addLayout(colonne);
+    auto* raquette = new raquette_banc{etabli_.port(), this};
+    rang->addWidget(raquette);
+    raquette->ecoute(this);
     rafraichit();
     startTimer(periode_ms);
 }
