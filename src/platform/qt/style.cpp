@@ -27,6 +27,14 @@ QIcon chevrons() {
 class style_calme final : public QProxyStyle {
   public:
     style_calme() : QProxyStyle(QStyleFactory::create("Fusion")) {}
+    // Every toolbar asks for it, and Qt loads all its picture plugins to read its own.
+    QIcon standardIcon(StandardPixmap lequel, const QStyleOption* option,
+                       const QWidget* widget) const override {
+        if (lequel == SP_ToolBarHorizontalExtensionButton || lequel == SP_ToolBarVerticalExtensionButton)
+            return chevrons();
+        return QProxyStyle::standardIcon(lequel, option, widget);
+    }
+
     int styleHint(StyleHint indice, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* retour) const override {
         switch (indice) {
@@ -38,14 +46,6 @@ class style_calme final : public QProxyStyle {
         default:
             return QProxyStyle::styleHint(indice, option, widget, retour);
         }
-    }
-
-    // Every toolbar asks for it, and Qt loads all its picture plugins to read its own.
-    QIcon standardIcon(StandardPixmap lequel, const QStyleOption* option,
-                       const QWidget* widget) const override {
-        if (lequel == SP_ToolBarHorizontalExtensionButton || lequel == SP_ToolBarVerticalExtensionButton)
-            return chevrons();
-        return QProxyStyle::standardIcon(lequel, option, widget);
     }
 };
 
