@@ -121,6 +121,16 @@ TEST_F(demarrage, a_panel_by_the_menu) {
     EXPECT_FALSE(montree("barequa"));
 }
 
+// Calls `f` once a message box stands.
+void a_la_boite(std::function<void(QMessageBox&)> f) {
+    QTimer::singleShot(20, [f] {
+        if (auto* boite = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+            f(*boite);
+        else
+            a_la_boite(f);
+    });
+}
+
 // ---- ends of the process: what the port saw is told on the way out
 
 class fin_du_programme : public demarrage {
@@ -162,18 +172,16 @@ TEST_F(fin_du_programme, a_failure_shows_one_box_freezes_the_program_and_ends_it
     const auto echoue = [this] {
         clique("frminterface", "barchoix(2)");
         dans_telescope("Equatorial");
-        QTimer::singleShot(50, [] {
-            auto* boite = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (!boite || QApplication::activePopupWidget())
-                return;
+        a_la_boite([](QMessageBox& boite) {
             baraltaz_boutons(1).clic();
             Quitter.clic();
-            std::fprintf(stderr, "%s | %s\n", qPrintable(boite->windowTitle()), qPrintable(boite->text()));
-            QTest::mouseClick(boite->button(QMessageBox::Ok), Qt::LeftButton);
+            std::fprintf(stderr, "%s | %s | %d\n", qPrintable(boite.windowTitle()), qPrintable(boite.text()),
+                         QApplication::activePopupWidget() != nullptr);
+            QTest::mouseClick(boite.button(QMessageBox::Ok), Qt::LeftButton);
         });
         base::fatale(base::cause::division_par_zero, "essai");
     };
-    EXPECT_EXIT(echoue(), testing::ExitedWithCode(1), "Velmoria . division par zéro : essai\nfin : \\.");
+    EXPECT_EXIT(echoue(), testing::ExitedWithCode(1), "Velmoria . division par zéro : essai . 0\nfin : \\.");
 }
 
 class sans_donnees : public essais::fenetres {
@@ -184,13 +192,12 @@ class sans_donnees : public essais::fenetres {
 
 TEST_F(sans_donnees, the_box_names_the_file_and_lies_under_no_splash) {
     const auto demarre = [this] {
-        QTimer::singleShot(50, [] {
-            auto* boite = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        a_la_boite([](QMessageBox& boite) {
             for (const auto* w : QApplication::topLevelWidgets())
-                if (w != boite && w->isVisible())
+                if (w != &boite && w->isVisible())
                     std::fprintf(stderr, "%s\n", qPrintable(w->objectName()));
-            std::fprintf(stderr, "%s\n", qPrintable(boite->text()));
-            boite->accept();
+            std::fprintf(stderr, "%s\n", qPrintable(boite.text()));
+            boite.accept();
         });
         s->demarre();
     };
@@ -200,7 +207,7 @@ TEST_F(sans_donnees, the_box_names_the_file_and_lies_under_no_splash) {
 
 TEST_F(fin_du_programme, a_second_failure_ends_at_once) {
     const auto echoue = [] {
-        QTimer::singleShot(50, [] { base::fatale(base::cause::depassement, "seconde"); });
+        a_la_boite([](QMessageBox&) { base::fatale(base::cause::depassement, "seconde"); });
         base::fatale(base::cause::division_par_zero, "essai");
     };
     EXPECT_EXIT(echoue(), testing::ExitedWithCode(1), "capacité : seconde\nfin : \\.");
