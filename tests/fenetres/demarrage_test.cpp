@@ -24,7 +24,9 @@ class demarrage : public essais::fenetres {
     QPoint dans_telescope(const char* nom) {
         auto* barre = principale()->findChild<QMenuBar*>();
         auto* action = principale()->findChild<QAction*>("mnutelescope");
-        QTest::mouseClick(barre, Qt::LeftButton, {}, barre->actionGeometry(action).center());
+        const auto ici = barre->actionGeometry(action).center();
+        QTest::mouseMove(barre, ici); // a menu that opens under a resting pointer would not look at it
+        QTest::mouseClick(barre, Qt::LeftButton, {}, ici);
         auto* ouvert = menu("mnutelescope.menu");
         EXPECT_TRUE(QTest::qWaitForWindowExposed(ouvert));
         return ouvert->actionGeometry(principale()->findChild<QAction*>(nom)).center();
@@ -78,9 +80,7 @@ TEST_F(demarrage, computer_and_paddle_control_by_the_toolbar) {
 
 TEST_F(demarrage, pointing_at_an_entry_opens_its_menu_and_runs_nothing) {
     const auto place = dans_telescope("Equatorial");
-    auto* ouvert = menu("mnutelescope.menu");
-    QTest::mouseMove(ouvert, place - QPoint{10, 0});
-    QTest::mouseMove(ouvert, place);
+    QTest::mouseMove(menu("mnutelescope.menu"), place);
     EXPECT_TRUE(QTest::qWaitFor([this] { return menu("Equatorial.menu")->isVisible(); }));
     EXPECT_FALSE(montree("barequa"));
 }
@@ -119,6 +119,16 @@ TEST_F(demarrage, a_panel_by_the_menu) {
     QTest::mouseClick(sous, Qt::LeftButton, {}, sous->actionGeometry(sous->actions().front()).center());
     EXPECT_TRUE(piece("frmequapilot")->isVisible());
     EXPECT_FALSE(montree("barequa"));
+}
+
+// Calls `f` once a message box stands.
+void a_la_boite(std::function<void(QMessageBox&)> f) {
+    QTimer::singleShot(20, [f] {
+        if (auto* boite = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+            f(*boite);
+        else
+            a_la_boite(f);
+    });
 }
 
 // ---- ends of the process: what the port saw is told on the way out
@@ -162,18 +172,16 @@ TEST_F(fin_du_programme, a_failure_shows_one_box_freezes_the_program_and_ends_it
     const auto echoue = [this] {
         clique("frminterface", "barchoix(2)");
         dans_telescope("Equatorial");
-        QTimer::singleShot(50, [] {
-            auto* boite = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (!boite || QApplication::activePopupWidget())
-                return;
+        a_la_boite([](QMessageBox& boite) {
             baraltaz_boutons(1).clic();
             Quitter.clic();
-            std::fprintf(stderr, "%s | %s\n", qPrintable(boite->windowTitle()), qPrintable(boite->text()));
-            QTest::mouseClick(boite->button(QMessageBox::Ok), Qt::LeftButton);
+            std::fprintf(stderr, "%s | %s | %d\n", qPrintable(boite.windowTitle()), qPrintable(boite.text()),
+                         QApplication::activePopupWidget() != nullptr);
+            QTest::mouseClick(boite.button(QMessageBox::Ok), Qt::LeftButton);
         });
         base::fatale(base::cause::division_par_zero, "essai");
     };
-    EXPECT_EXIT(echoue(), testing::ExitedWithCode(1), "Velmoria . division par zéro : essai\nfin : \\.");
+    EXPECT_EXIT(echoue(), testing::ExitedWithCode(1), "Velmoria . division par zéro : essai . 0\nfin : \\.");
 }
 
 class sans_donnees : public essais::fenetres {
@@ -184,13 +192,12 @@ class sans_donnees : public essais::fenetres {
 
 TEST_F(sans_donnees, the_box_names_the_file_and_lies_under_no_splash) {
     const auto demarre = [this] {
-        QTimer::singleShot(50, [] {
-            auto* boite = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        a_la_boite([](QMessageBox& boite) {
             for (const auto* w : QApplication::topLevelWidgets())
-                if (w != boite && w->isVisible())
+                if (w != &boite && w->isVisible())
                     std::fprintf(stderr, "%s\n", qPrintable(w->objectName()));
-            std::fprintf(stderr, "%s\n", qPrintable(boite->text()));
-            boite->accept();
+            std::fprintf(stderr, "%s\n", qPrintable(boite.text()));
+            boite.accept();
         });
         s->demarre();
     };
@@ -200,7 +207,7 @@ TEST_F(sans_donnees, the_box_names_the_file_and_lies_under_no_splash) {
 
 TEST_F(fin_du_programme, a_second_failure_ends_at_once) {
     const auto echoue = [] {
-        QTimer::singleShot(50, [] { base::fatale(base::cause::depassement, "seconde"); });
+        a_la_boite([](QMessageBox&) { base::fatale(base::cause::depassement, "seconde"); });
         base::fatale(base::cause::division_par_zero, "essai");
     };
     EXPECT_EXIT(echoue(), testing::ExitedWithCode(1), "capacité : seconde\nfin : \\.");

@@ -1,7 +1,7 @@
 #!/bin/sh
 # ecran.sh COMMAND...: runs it on a virtual display of its own and gives its exit status.
 numero=$(mktemp)
-Xvfb -displayfd 3 -screen 0 2400x1600x24 -nolisten tcp 3>"$numero" >/dev/null 2>&1 &
+Xvfb -displayfd 3 -screen 0 2400x1600x24 -nolisten tcp -noreset 3>"$numero" >/dev/null 2>&1 &
 serveur=$!
 trap 'kill $serveur 2>/dev/null; rm -f "$numero"' EXIT
 essais=0

@@ -1,5 +1,6 @@
 #include "platform/qt/fin.h"
 
+#include "platform/qt/menus.h"
 #include "platform/qt/mesures.h"
 #include "shell/panneau.h"
 
@@ -21,8 +22,7 @@ std::vector<std::function<void()>>& travaux() {
 
 // A popup holds the mouse, and a splash may lie over the box.
 void degage_l_ecran() {
-    while (auto* menu = QApplication::activePopupWidget())
-        menu->close();
+    ferme_surgissants();
     for (auto* w : QApplication::topLevelWidgets())
         if (w->windowType() == Qt::SplashScreen)
             w->hide();

@@ -25,13 +25,30 @@ double densite(const QImage& i) {
     return i.dotsPerMeterX() == supposee ? 96 : std::round(i.dotsPerMeterX() / pouces_par_metre);
 }
 
-// By its first bytes, and with the format named: to let Qt guess has it load all its picture plugins.
-QImage lit(const std::filesystem::path& chemin) {
+// With the format named and taken at its word: to let Qt guess has it load all its picture plugins.
+QImage lit(const QString& chemin, const char* format) {
+    QImageReader lecteur{chemin, format};
+    lecteur.setAutoDetectImageFormat(false);
+    return lecteur.read();
+}
+
+// The format by the first bytes, null for neither GIF nor JPEG.
+const char* format_de(const std::filesystem::path& chemin) {
     std::array<char, 3> debut{};
     std::ifstream{chemin, std::ios::binary}.read(debut.data(), debut.size());
     const std::string_view signe{debut.data(), debut.size()};
-    const char* format = signe == "GIF" ? "gif" : signe == "\xFF\xD8\xFF" ? "jpeg" : nullptr;
-    return format ? QImageReader{QString::fromStdString(chemin.string()), format}.read() : QImage{};
+    return signe == "GIF" ? "gif" : signe == "\xFF\xD8\xFF" ? "jpeg" : nullptr;
+}
+
+QPixmap png(const QString& chemin) { return QPixmap::fromImage(lit(chemin, "png")); }
+
+// The drawing at one, two and three times its size, those there are. `souche` is its path without ".png".
+QIcon toutes_densites(const QString& souche) {
+    QIcon i;
+    for (const auto* taille : {"", "@2x", "@3x"})
+        if (const auto chemin = souche + taille + ".png"; QFile::exists(chemin))
+            i.addPixmap(png(chemin));
+    return i;
 }
 
 } // namespace
@@ -39,7 +56,8 @@ QImage lit(const std::filesystem::path& chemin) {
 image charge(const std::filesystem::path& chemin) {
     if (!std::filesystem::exists(chemin))
         base::fatale(base::cause::fichier_introuvable, chemin.string());
-    const QImage lue = lit(chemin);
+    const auto* format = format_de(chemin);
+    const QImage lue = format ? lit(QString::fromStdString(chemin.string()), format) : QImage{};
     if (lue.isNull())
         base::fatale(base::cause::image_illisible, chemin.string());
     const auto [place, nouvelle] = numeros.try_emplace(chemin, static_cast<int>(chargees.size()) + 1);
@@ -58,15 +76,17 @@ QIcon icone(int indice) {
     const auto debut = QString{"%1-"}.arg(indice, 2, 10, QChar{'0'});
     for (const auto& nom : noms)
         if (nom.startsWith(debut) && !nom.contains('@'))
-            return QIcon{":/icones/" + nom};
+            return toutes_densites(":/icones/" + nom.chopped(4));
     return {};
 }
 
-QIcon face(const char* nom) { return QIcon{QString{":/boutons/%1.png"}.arg(nom)}; }
+QIcon face(const char* nom) { return toutes_densites(QString{":/boutons/%1"}.arg(nom)); }
 
 QPixmap decor(const char* nom, double densite) {
     const QString fine{QString{":/%1@2x.png"}.arg(nom)};
-    return QPixmap{densite > 1 && QFile::exists(fine) ? fine : QString{":/%1.png"}.arg(nom)};
+    return png(densite > 1 && QFile::exists(fine) ? fine : QString{":/%1.png"}.arg(nom));
 }
+
+QIcon icone_programme(const char* nom) { return png(QString{":/%1-64.png"}.arg(nom)); }
 
 } // namespace plateforme::qt

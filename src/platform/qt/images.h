@@ -23,4 +23,7 @@ QIcon icone(int indice);
 QIcon face(const char* nom);
 QPixmap decor(const char* nom, double densite);
 
+/// The icon of a program's windows.
+QIcon icone_programme(const char* nom);
+
 } // namespace plateforme::qt

@@ -3,12 +3,12 @@
 #include "base/fatale.h"
 #include "platform/qt/boucle_qt.h"
 #include "platform/qt/fin.h"
+#include "platform/qt/images.h"
 #include "platform/qt/style.h"
 #include "platform/qt/vue_qt.h"
 #include "shell/programme.h"
 
 #include <QApplication>
-#include <QIcon>
 
 // Outside any namespace: Qt's rule for resources that live in a library.
 static void prend_les_images() { Q_INIT_RESOURCE(images); }
@@ -21,7 +21,7 @@ seance::seance(int argc, char** argv, composition c) : argc_(argc), c_(std::move
     prend_les_images();
     habille(*application_);
     QApplication::setApplicationName("Velmoria");
-    QApplication::setWindowIcon(QIcon{QString{":/%1-64.png"}.arg(c_.icone)});
+    QApplication::setWindowIcon(icone_programme(c_.icone));
 
     boucle_ = std::make_unique<boucle_qt>(c_.attente, c_.apres_cession);
     vue_ = std::make_unique<vue_qt>();

@@ -91,8 +91,7 @@ class menu final : public QMenu {
     }
 
     void ferme_et_choisit(entree& e) {
-        while (auto* ouvert = QApplication::activePopupWidget())
-            ouvert->close();
+        ferme_surgissants();
         choisit_(e);
     }
 
@@ -120,6 +119,12 @@ void remplit_barre(QMenuBar& barre, const shell::panneau& p, std::vector<QObject
         action->setObjectName(affiche(e->nom()));
         pieces[static_cast<std::size_t>(e->rang())] = action;
     }
+}
+
+void ferme_surgissants() {
+    constexpr int plus_que_jamais = 20; // one that would not close must not hold the program up
+    for (int i = 0; i < plus_que_jamais && QApplication::activePopupWidget(); ++i)
+        QApplication::activePopupWidget()->close();
 }
 
 entree* ouvre_surgissant(entree& racine, const entree* defaut) {

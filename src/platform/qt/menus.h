@@ -19,4 +19,7 @@ void remplit_barre(QMenuBar& barre, const shell::panneau& p, std::vector<QObject
 /// Opens an entry's children at the pointer and returns the one chosen when it has closed, or none.
 shell::entree* ouvre_surgissant(shell::entree& racine, const shell::entree* defaut);
 
+/// Closes every open popup, of menus and of drop-down lists.
+void ferme_surgissants();
+
 } // namespace plateforme::qt

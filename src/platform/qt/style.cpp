@@ -1,6 +1,8 @@
 #include "platform/qt/style.h"
 
 #include <QApplication>
+#include <QIcon>
+#include <QPainter>
 #include <QProxyStyle>
 #include <QStyleFactory>
 
@@ -8,11 +10,31 @@ namespace plateforme::qt {
 
 namespace {
 
+// What a toolbar too narrow for its tools shows at its end.
+QIcon chevrons() {
+    QPixmap p{16, 16};
+    p.fill(Qt::transparent);
+    QPainter peintre{&p};
+    peintre.setRenderHint(QPainter::Antialiasing);
+    peintre.setPen({Qt::black, 2});
+    for (const int x : {3, 8})
+        peintre.drawPolyline(QPolygon{{{x, 3}, {x + 5, 8}, {x, 13}}});
+    return p;
+}
+
 // Fusion without its animations, since a repaint while a motor runs is a late pulse, with plain buttons in
 // its boxes, and without the context menu of scroll bars, which is not in French.
 class style_calme final : public QProxyStyle {
   public:
     style_calme() : QProxyStyle(QStyleFactory::create("Fusion")) {}
+    // Every toolbar asks for it, and Qt loads all its picture plugins to read its own.
+    QIcon standardIcon(StandardPixmap lequel, const QStyleOption* option,
+                       const QWidget* widget) const override {
+        if (lequel == SP_ToolBarHorizontalExtensionButton || lequel == SP_ToolBarVerticalExtensionButton)
+            return chevrons();
+        return QProxyStyle::standardIcon(lequel, option, widget);
+    }
+
     int styleHint(StyleHint indice, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* retour) const override {
         switch (indice) {
