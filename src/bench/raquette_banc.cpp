@@ -125,6 +125,10 @@ bool raquette_banc::eventFilter(QObject* objet, QEvent* e) {
         if (objet == window())
             lache();
         return false;
+    case QEvent::MouseButtonRelease: // also one outside the key that was pressed
+        if (std::find(touches_.begin(), touches_.end(), objet) != touches_.end())
+            lache();
+        return false;
     default:
         return false;
     }

@@ -50,14 +50,18 @@ class horloge_arretee final : public plateforme::horloge {
 
 class fenetres : public testing::Test {
   protected:
-    explicit fenetres(const char* echelle = "1", const char* donnees = DONNEES) {
+    /// On a port of the test's own, if one is given.
+    explicit fenetres(const char* echelle = "1", const char* donnees = DONNEES,
+                      plateforme::port* autre_port = nullptr) {
         qputenv("QT_SCALE_FACTOR", echelle);
         static char nom[] = "essais";
         static char* arguments[] = {nom, nullptr};
         s = std::make_unique<plateforme::qt::seance>(
             1, arguments,
-            plateforme::qt::composition{
-                .port = port, .horloge = horloge, .attente = [](std::int64_t) {}, .donnees = donnees});
+            plateforme::qt::composition{.port = autre_port ? *autre_port : port,
+                                        .horloge = horloge,
+                                        .attente = [](std::int64_t) {},
+                                        .donnees = donnees});
     }
 
     void SetUp() override {
