@@ -4,7 +4,9 @@
 // range are part of the formulas that use them.
 #pragma once
 
-#include "shell/controles.h"
+namespace shell {
+class champ_texte;
+}
 
 namespace math {
 
