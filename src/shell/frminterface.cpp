@@ -195,6 +195,7 @@ void branche_barres() {
     baraltaz_boutons(1).au_clic(mode_ordinateur);
     baraltaz_boutons(2).au_clic(mode_raquette);
     baraltaz_boutons(3).au_clic([] { pilote(frmaltazpilot::fiche); });
+    baraltaz_boutons(5).au_clic([] { frmaltazsuivi::fiche.montre(); });
     baraltaz_boutons(6).au_clic([] { frmconfig::fiche.montre(); });
     baraltaz_boutons(7).au_clic(bascule_coordonnees);
 
@@ -212,6 +213,7 @@ void branche_menu() {
     mnuparaequa.au_clic([] { frmequaconfig::fiche.montre(); });
     altazimutal.au_clic(mode_altazimutal_par_menu);
     mnupilotagealtaz.au_clic([] { frmaltazpilot::fiche.montre(); });
+    mnusuivi.au_clic([] { frmaltazsuivi::fiche.montre(); });
     mnuparaaltaz.au_clic([] {
         frmconfig::fiche.montre();
         mnusuivi.actif(true);

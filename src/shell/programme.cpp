@@ -22,7 +22,10 @@
 #include "sky/heure.h"
 #include "sky/position.h"
 #include "sky/temps_sideral.h"
+#include "tracking/frmaltazsuivi.h"
 #include "tracking/frmaltazsuivi_champs.h"
+#include "tracking/horloge_suivi.h"
+#include "tracking/tic_suivi.h"
 
 namespace programme {
 
@@ -46,6 +49,7 @@ std::vector<shell::panneau*> panneaux() {
     frmcoord::branche();
     frmconfig::branche();
     frmequaconfig::branche();
+    frmaltazsuivi::branche();
 
     return {&frminterface::fiche, &frmintro::fiche,  &frmaltazpilot::fiche, &frmequapilot::fiche,
             &frmcoord::fiche,     &frmconfig::fiche, &frmequaconfig::fiche, &frmaltazsuivi::fiche};
@@ -93,6 +97,9 @@ std::vector<shell::variable> variables() {
         VARIABLE(pointing, stoppointage),
         VARIABLE(tracking, suiviouvert),
         VARIABLE(tracking, objetchoisi),
+        VARIABLE(tracking, incrementms),
+        VARIABLE(tracking, sommeaz),
+        VARIABLE(tracking, sommealt),
         VARIABLE(cmd_moteur, pasencodeaz),
         VARIABLE(cmd_moteur, pasencodealt),
         VARIABLE(general, decalageheure),
