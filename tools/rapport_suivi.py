@@ -95,14 +95,15 @@ def ecrit(dossier, nuit, mesures):
                             *(f"{x:.2f}" for x in m.avant + m.apres)))
 
 
-def resume(nuit, increment, mesures, duree):
+def resume(nuit, increment, mesures):
+    """The night's row of mesures.csv, and its largest distances before and after the tick."""
     def extremes(axe, quand):
         valeurs = [getattr(m, quand)[axe] for m in mesures]
         return f"{min(valeurs):.1f}", f"{max(valeurs):.1f}"
 
     ciel = [max(m.sur_le_ciel(getattr(m, q)) for m in mesures) for q in ("avant", "apres")]
     return (nuit.nom, increment, *extremes(0, "avant"), *extremes(1, "avant"), *extremes(0, "apres"),
-            *extremes(1, "apres"), f"{ciel[0]:.1f}", f"{ciel[1]:.1f}"), ciel, duree
+            *extremes(1, "apres"), f"{ciel[0]:.1f}", f"{ciel[1]:.1f}"), ciel
 
 
 def main():
@@ -118,7 +119,7 @@ def main():
     for nuit in toutes():
         releves, duree = joue(options.programme, nuit, options.increment)
         mesures = compare(nuit, table, releves)
-        ligne, ciel, _ = resume(nuit, options.increment, mesures, duree)
+        ligne, ciel = resume(nuit, options.increment, mesures)
         print(*ligne, f"{duree:.1f}s")
         lignes.append(ligne)
         courbes.append((nuit, mesures))

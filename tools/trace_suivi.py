@@ -34,7 +34,8 @@ def cadre(nuit, mesures, y0, pas):
     g = graduation(2 * haut)
     for k in range(math.ceil(-haut / g), math.floor(haut / g) + 1):
         trait = "#888" if k == 0 else "#ddd"
-        lignes.append(f'<line x1="{MARGE}" x2="{LARGEUR - 15}" y1="{y(k * g):.1f}" y2="{y(k * g):.1f}" stroke="{trait}"/>')
+        lignes.append(f'<line x1="{MARGE}" x2="{LARGEUR - 15}" y1="{y(k * g):.1f}" y2="{y(k * g):.1f}" '
+                      f'stroke="{trait}"/>')
         lignes.append(f'<text x="{MARGE - 6}" y="{y(k * g) + 4:.1f}" text-anchor="end">{nombre(k * g)}″</text>')
     for h in range(0, math.ceil(heures) + 1, 2):
         lignes.append(f'<text x="{x(min(h, heures)):.1f}" y="{y0 + HAUTEUR - 8}" text-anchor="middle">{h} h</text>')
