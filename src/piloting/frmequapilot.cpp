@@ -3,6 +3,7 @@
 #include "drive/cmd_moteur.h"
 #include "piloting/frmequapilot_champs.h"
 #include "piloting/pilotage.h"
+#include "tracking/suivi_equatorial.h"
 
 namespace frmequapilot {
 
@@ -36,6 +37,9 @@ const piloting::pilote pilote{
 
 } // namespace
 
-void branche() { piloting::branche(pilote); }
+void branche() {
+    piloting::branche(pilote);
+    suivi_equatorial::branche();
+}
 
 } // namespace frmequapilot

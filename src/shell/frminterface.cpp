@@ -209,6 +209,7 @@ void branche_barres() {
     baraltaz_boutons(2).au_clic(mode_raquette);
     baraltaz_boutons(3).au_clic([] { pilote(frmaltazpilot::fiche); });
     baraltaz_boutons(4).au_clic([] { frmaltazpointage::fiche.montre(); });
+    baraltaz_boutons(5).au_clic([] { frmaltazsuivi::fiche.montre(); });
     baraltaz_boutons(6).au_clic([] { frmconfig::fiche.montre(); });
     baraltaz_boutons(7).au_clic(bascule_coordonnees);
 
@@ -228,6 +229,7 @@ void branche_menu() {
     altazimutal.au_clic(mode_altazimutal_par_menu);
     mnupilotagealtaz.au_clic([] { frmaltazpilot::fiche.montre(); });
     mnupointaltaz.au_clic([] { frmaltazpointage::fiche.montre(); });
+    mnusuivi.au_clic([] { frmaltazsuivi::fiche.montre(); });
     mnuparaaltaz.au_clic([] {
         frmconfig::fiche.montre();
         mnusuivi.actif(true);

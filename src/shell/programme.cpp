@@ -30,7 +30,10 @@
 #include "sky/heure.h"
 #include "sky/position.h"
 #include "sky/temps_sideral.h"
+#include "tracking/frmaltazsuivi.h"
 #include "tracking/frmaltazsuivi_champs.h"
+#include "tracking/horloge_suivi.h"
+#include "tracking/tic_suivi.h"
 
 namespace programme {
 
@@ -62,6 +65,7 @@ std::vector<shell::panneau*> panneaux() {
     frmaltazpointage::branche();
     frmequapointage::branche();
     frmDepl::branche();
+    frmaltazsuivi::branche();
 
     return {
         &frminterface::fiche,
@@ -146,6 +150,9 @@ std::vector<shell::variable> variables() {
         VARIABLE(pointing, invpointdec),
         VARIABLE(tracking, suiviouvert),
         VARIABLE(tracking, objetchoisi),
+        VARIABLE(tracking, incrementms),
+        VARIABLE(tracking, sommeaz),
+        VARIABLE(tracking, sommealt),
         VARIABLE(cmd_moteur, pasencodeaz),
         VARIABLE(cmd_moteur, pasencodealt),
         VARIABLE(general, decalageheure),

@@ -1,0 +1,86 @@
+// What a tracking tick costs, its bursts' waits apart: handler and store, with every field changing. Each
+// tick is timed on its own, and the median is reported.
+#include "bench/monture.h"
+#include "bench/port_simule.h"
+#include "platform/virtuelle/boucle_virtuelle.h"
+#include "settings/etat_suivi.h"
+#include "settings/frmconfig_champs.h"
+#include "shell/programme.h"
+#include "sky/position.h"
+#include "tracking/frmaltazsuivi_champs.h"
+
+#include <algorithm>
+#include <benchmark/benchmark.h>
+#include <chrono>
+#include <vector>
+
+namespace {
+
+struct vue_nulle final : plateforme::vue {
+    void panneau_change(const shell::panneau&) override {}
+    void eleve(const shell::panneau&) override {}
+    void repeint(const shell::panneau&) override {}
+    void controle_change(const shell::controle&, plateforme::aspect) override { ++changements; }
+    shell::entree* ouvre_menu(shell::entree&, const shell::entree*) override { return nullptr; }
+    void message(const std::string&) override {}
+    plateforme::image charge_image(const std::filesystem::path&) override { return {}; }
+    std::int64_t changements = 0;
+};
+
+struct banc_suivi {
+    banc::monture monture;
+    banc::port_simule port{monture};
+    plateforme::boucle_virtuelle boucle;
+    vue_nulle vue;
+
+    // `heure` of the computer: at 0 h each tick reads the almanac.
+    banc_suivi(int increment, int heure) {
+        plateforme::courante = {&port, &boucle, &boucle, &vue, VELMORIA_DONNEES};
+        boucle.regle_horloge({.annee = 2001, .mois = 8, .jour = 15, .heure = heure});
+        programme::construit();
+        frmaltazsuivi::fiche.charge();
+        frmconfig::txtsign.ecrit("+");
+        frmconfig::txtdec_deg.ecrit("20");
+        frmconfig::Txtad_h.ecrit("21");
+        tracking::objetchoisi = true;
+        frmaltazsuivi::txtincrement.ecrit(base::entier16{increment});
+        frmaltazsuivi::cmdcalcul.clic();
+    }
+};
+
+void tic(benchmark::State& etat) {
+    const int increment = static_cast<int>(etat.range(0));
+    banc_suivi b(increment, static_cast<int>(etat.range(1)));
+    // From one object to another and back, all that can change does; steps of 1 degree keep the bursts short.
+    const bool sauts = etat.range(2) != 0;
+    if (sauts)
+        general::angpasaz = general::angpasalt = 3600;
+    bool autre = false;
+    std::vector<double> durees;
+    const auto avant = b.vue.changements;
+    for (auto _ : etat) {
+        if (sauts)
+            frmconfig::Txtad_h.ecrit((autre = !autre) ? "20" : "21");
+        const auto debut = std::chrono::steady_clock::now();
+        b.boucle.avance(increment * std::int64_t{1'000'000});
+        durees.push_back(
+            std::chrono::duration<double, std::micro>(std::chrono::steady_clock::now() - debut).count());
+    }
+    std::nth_element(durees.begin(), durees.begin() + static_cast<std::ptrdiff_t>(durees.size() / 2),
+                     durees.end());
+    etat.counters["mediane_us"] = durees[durees.size() / 2];
+    etat.counters["champs"] =
+        static_cast<double>(b.vue.changements - avant) / static_cast<double>(etat.iterations());
+}
+BENCHMARK(tic)
+    ->ArgNames({"increment", "heure", "sauts"})
+    ->Args({1000, 22, 0})
+    ->Args({100, 22, 0})
+    ->Args({1000, 0, 0})
+    ->Args({1000, 22, 1})
+    ->Args({1000, 0, 1})
+    ->Iterations(3000);
+
+} // namespace
+
+BENCHMARK_MAIN();

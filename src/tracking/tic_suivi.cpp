@@ -1,0 +1,94 @@
+#include "tracking/tic_suivi.h"
+
+#include "base/nombre.h"
+#include "drive/cmd_moteur.h"
+#include "sky/conversion.h"
+#include "sky/position.h"
+#include "tracking/affichage_suivi.h"
+#include "tracking/fraction.h"
+#include "tracking/frmaltazsuivi_champs.h"
+#include "tracking/horloge_suivi.h"
+
+#include <cmath>
+
+namespace tracking {
+
+using base::entier16;
+using base::entier32;
+using cmd_moteur::nbpasalt;
+using cmd_moteur::nbpasaz;
+using general::ecartalt;
+using general::ecartaz;
+
+namespace {
+
+constexpr double tour = 1296000;        // arcseconds
+constexpr double passage_zero = 360000; // no object moves so far in a tick: it crossed azimuth 0
+
+double pas_exacts(double ecart, double angle_par_pas, const char* quoi) {
+    return base::fini(std::abs(base::divise(ecart, angle_par_pas, quoi)), quoi);
+}
+
+void lit_reglages() {
+    const double ms = frmaltazsuivi::txtincrement.nombre();
+    incrementms = entier16{ms};
+    frmaltazsuivi::timcompteur.intervalle(entier32{ms});
+    cmd_moteur::tempoaz = entier32{frmaltazsuivi::txttempoa.nombre()};
+    cmd_moteur::tempoalt = entier32{frmaltazsuivi::txttempoh.nombre()};
+}
+
+// The count of altitude is checked for 16 bits by its burst, after that of azimuth has gone out.
+void compte_altitude() {
+    prive.altnew = general::posalt;
+    ecartalt = prive.altnew - prive.altold;
+    prive.pasexactalt = pas_exacts(ecartalt, general::angpasalt, "pas en altitude");
+    nbpasalt = base::arrondi(prive.pasexactalt);
+    prive.resteazalt = prive.pasexactalt - nbpasalt;
+    sommealt += prive.resteazalt;
+    nbpasalt += paie(sommealt);
+}
+
+void compte_azimut() {
+    prive.aznew = general::posaz;
+    ecartaz = prive.aznew - prive.azold;
+    if (std::abs(ecartaz) > passage_zero)
+        ecartaz += ecartaz < 0 ? tour : -tour;
+    prive.pasexactaz = pas_exacts(ecartaz, general::angpasaz, "pas en azimut");
+    nbpasaz = entier16{prive.pasexactaz};
+    prive.resteaz = prive.pasexactaz - nbpasaz.reel();
+    sommeaz += prive.resteaz;
+    nbpasaz += entier16{paie(sommeaz)};
+}
+
+} // namespace
+
+void tic() {
+    lit_reglages();
+    recale_horloge();
+    avance_horloge();
+    general::calcul_altaz();
+    compte_altitude();
+    compte_azimut();
+    affiche();
+    prive.altold = prive.altnew;
+    prive.azold = prive.aznew;
+    cmd_moteur::rafaleaz();
+    cmd_moteur::rafalealt();
+    frmaltazsuivi::timcompteur.marche(true);
+}
+
+void efface_sommes() {
+    nbpasaz = 0;
+    nbpasalt = 0;
+    prive.resteaz = 0;
+    prive.resteazalt = 0;
+    sommeaz = 0;
+    sommealt = 0;
+}
+
+void part_d_ici() {
+    prive.altold = general::posalt;
+    prive.azold = general::posaz;
+}
+
+} // namespace tracking
