@@ -130,10 +130,10 @@ def etiquettes(ad, dec):
 def suite():
     """One night's road: ways of both signs, the same object again, the horizon, +0 degrees."""
     t = Telescope()
-    cibles = [("loin, puis plus haut", 251.3, 52.1, 1000), ("à rebours et plus bas", 98.7, 17.2, 60000),
-              ("encore", 0, 0, 0), ("au nord", 326.3, 41.3, 100000), ("couché", 305.2, -12.4, 150000)]
-    objets = [objet(ms, az, alt) for _, az, alt, ms in cibles]
-    objets[2] = objets[1]
+    # Azimuth, altitude and about when: up and on, back and down, the same again, north, under the horizon.
+    cibles = [(251.3, 52.1, 1000), (98.7, 17.2, 60000), (98.7, 17.2, 60000), (326.3, 41.3, 100000),
+              (305.2, -12.4, 150000)]
+    objets = [objet(ms, az, alt) for az, alt, ms in cibles]
     objets.append((objet(150000, 140.0, 30.0)[0], 300))  # +0 degrees 30
     scenario = [ENTETE, "fichier messier.cat " + "|".join(f"M{i + 1},GL,{a},{d}" for i, (a, d) in enumerate(objets)),
                 "\n" + DEMARRE]
@@ -207,9 +207,12 @@ def couche():
     return "".join(scenario), "\n".join(lignes) + "\n"
 
 
+SCENARIOS = (("pointage_altaz", suite), ("pointage_altaz_arret", arrets), ("pointage_altaz_couche", couche))
+
+
 def main():
     dossier = Path(sys.argv[1]) if len(sys.argv) > 1 else SORTIE
-    for nom, fait in (("pointage_altaz", suite), ("pointage_altaz_arret", arrets), ("pointage_altaz_couche", couche)):
+    for nom, fait in SCENARIOS:
         scenario, attendu = fait()
         (dossier / f"{nom}.scn").write_text(scenario, encoding="utf-8")
         (dossier / f"{nom}.attendu").write_text(attendu, encoding="utf-8")
