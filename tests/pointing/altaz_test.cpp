@@ -132,7 +132,7 @@ TEST_F(Altaz, un_alignement_puis_le_meme_objet) {
     EXPECT_EQ(compte_alt(), 1u);
 
     // Without whole degrees a declination is southern, in the entry and in the slew alike.
-    const auto hauteur = [this](const char* degres, const char* minutes) {
+    const auto hauteur = [](const char* degres, const char* minutes) {
         choix.tDec(0).ecrit(degres);
         choix.tDec(1).ecrit(minutes);
         choix.bOK.clic();
