@@ -3,7 +3,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 construit=${1:-build/release}/benchmarks
-for b in banc_attente banc_port_simule; do
+for b in banc_attente banc_port_simule banc_raquette banc_pointage banc_suivi; do
     printf '\n== %s\n' "$b"
     "$construit/$b"
 done

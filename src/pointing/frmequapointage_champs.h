@@ -23,18 +23,19 @@ inline constinit champ_coche chkpointad{
 inline constinit champ_coche chkpointdec{
     fiche, "chkpointdec", {1620, 285, 1920, 330}, {.legende = "Déclinaison ", .cadre = &Frame6}};
 
-// Drawn buttons: the picture takes the mouse, its inner label lets it through.
-inline constinit champ_image Picinit{fiche, "Picinit", {4770, 2880, 1680, 510}};
+// Drawn buttons: the picture takes the mouse, its inner label lets it through. They
+// keep the pictures' proportions; the label stands right of the drawing.
+inline constinit champ_image Picinit{fiche, "Picinit", {4602, 2850, 2016, 612}};
 inline constinit champ_etiquette lblinit{
     fiche,
     "lblinit",
-    {120, 105, 1440, 300},
+    {510, 156, 1440, 300},
     {.legende = "Initialisation", .cadre = &Picinit, .traits = centre | traverse}};
-inline constinit champ_image picpointage{fiche, "picpointage", {4770, 3510, 1680, 510}};
+inline constinit champ_image picpointage{fiche, "picpointage", {4602, 3570, 2016, 612}};
 inline constinit champ_etiquette lblpointage{
     fiche,
     "lblpointage",
-    {120, 105, 1440, 300},
+    {510, 156, 1440, 300},
     {.legende = "Pointage", .cadre = &picpointage, .traits = centre | traverse}};
 
 inline std::vector<controle*> controles() {

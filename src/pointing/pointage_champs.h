@@ -20,10 +20,10 @@ struct champs_pointage {
 
     constexpr champs_pointage(shell::panneau& p, const char* premier_axe, const char* second_axe)
         : frame5{p, "frame5", {3780, 30, 3660, 1140}, {.legende = "Vitesses de pointage"}},
-          lblpointaz{p, "lblpointaz", {120, 315, 1260, 270}, {.legende = premier_axe, .cadre = &frame5}},
-          cbpointaz{p, "cbpointaz", {1440, 270, 1200, 345}, {.cadre = &frame5}},
-          lblpointalt{p, "lblpointalt", {120, 735, 1260, 270}, {.legende = second_axe, .cadre = &frame5}},
-          cbpointalt{p, "cbpointalt", {1440, 690, 1200, 345}, {.cadre = &frame5}},
+          lblpointaz{p, "lblpointaz", {120, 360, 1260, 270}, {.legende = premier_axe, .cadre = &frame5}},
+          cbpointaz{p, "cbpointaz", {1440, 315, 1200, 345}, {.cadre = &frame5}},
+          lblpointalt{p, "lblpointalt", {120, 765, 1260, 270}, {.legende = second_axe, .cadre = &frame5}},
+          cbpointalt{p, "cbpointalt", {1440, 720, 1200, 345}, {.cadre = &frame5}},
           Frame2{p, "Frame2", {3780, 1230, 3660, 720}}, optcodeur{p,
                                                                   "optcodeur",
                                                                   {120, 285, 1380, 330},

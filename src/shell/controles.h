@@ -369,8 +369,8 @@ template <class T, std::size_t N> class tableau {
     std::array<T, N> elements_;
 };
 
-/// The controls of a panel in order, arrays and groups (which list their own) taken apart. Their order is the tab key's and, from back to
-/// front, the painter's.
+/// The controls of a panel in order, arrays and groups taken apart; a group lists its own. Their order is the
+/// tab key's and, from back to front, the painter's.
 template <class... C> std::vector<controle*> liste(C&... c) {
     std::vector<controle*> tous;
     const auto ajoute = [&tous](auto& un) {
