@@ -1,5 +1,5 @@
-// The hand paddle of the bench: four keys and a speed switch for each axis, held with the mouse or the arrow keys, which
-// make on the simulated registers what the real one makes on the port.
+// The hand paddle of the bench: four keys and a speed switch for each axis, held with the mouse or the arrow
+// keys, which make on the simulated registers what the real one makes on the port.
 #pragma once
 
 #include "bench/port_simule.h"
@@ -21,7 +21,8 @@ class raquette_banc final : public QGroupBox {
   public:
     /// `p` must outlive the paddle.
     raquette_banc(port_simule& p, QWidget* parent);
-    /// Takes the arrow keys of the whole window, but for its text fields. To be called once all its widgets stand.
+    /// Takes the arrow keys of the whole window, but for its text fields. To be called once all its widgets
+    /// stand.
     void ecoute(QWidget* fenetre);
     /// No key is held any more.
     void lache();

@@ -68,18 +68,9 @@ std::vector<shell::panneau*> panneaux() {
     frmaltazsuivi::branche();
 
     return {
-        &frminterface::fiche,
-        &frmintro::fiche,
-        &frmcoord::fiche,
-        &frmconfig::fiche,
-        &frmequaconfig::fiche,
-        &frmaltazpilot::fiche,
-        &frmequapilot::fiche,
-        &frmraquette::fiche,
-        &frmaltazpointage::fiche,
-        &frmequapointage::fiche,
-        &frmDepl::fiche,
-        &frmaltazsuivi::fiche,
+        &frminterface::fiche,     &frmintro::fiche,        &frmcoord::fiche,     &frmconfig::fiche,
+        &frmequaconfig::fiche,    &frmaltazpilot::fiche,   &frmequapilot::fiche, &frmraquette::fiche,
+        &frmaltazpointage::fiche, &frmequapointage::fiche, &frmDepl::fiche,      &frmaltazsuivi::fiche,
     };
 }
 
