@@ -45,7 +45,8 @@ class port_temoin final : public plateforme::port {
 
 class horloge_arretee final : public plateforme::horloge {
   public:
-    plateforme::instant maintenant() override { return {2001, 8, 15, 22, 0, 0, 0}; }
+    plateforme::instant maintenant() override { return {2001, 8, 15, 22, 0, seconde, 0}; }
+    int seconde = 0; ///< moved by the test
 };
 
 class fenetres : public testing::Test {
