@@ -142,6 +142,30 @@ TEST_F(Equa, classes_rendues) {
     EXPECT_EQ(cmd_moteur::classevitalt, 2);
 }
 
+// What does not fit 16 bits is fatal before anything moves; a target beyond the sky is none of its business.
+TEST_F(Equa, entree_trop_grande) {
+    lbEtoiles.double_clic(7);
+    choix.lbCatalogue.choisit(0);
+    const auto entre = [](const char* h, const char* m, const char* d, const char* n) {
+        choix.tAD(0).ecrit(h);
+        choix.tAD(1).ecrit(m);
+        choix.tDec(0).ecrit(d);
+        choix.tDec(1).ecrit(n);
+        choix.bOK.clic();
+    };
+    for (const auto& [h, m, d, n] :
+         {std::array{"55", "0", "0", "0"}, std::array{"54", "37", "0", "0"}, std::array{"-55", "0", "0", "0"},
+          std::array{"32768", "0", "0", "0"}, std::array{"0", "0", "547", "0"},
+          std::array{"0", "0", "0", "32768"}, std::array{"1e300", "0", "0", "0"}})
+        essais::attend_echec(base::cause::depassement,
+                             [&, h = h, m = m, d = d, n = n] { entre(h, m, d, n); });
+    EXPECT_EQ(monture.compte(), banc::impulsions{});
+    entre("-1", "-0.5", "546", "32767");
+    EXPECT_EQ(pointing::ciblead, -610);
+    EXPECT_EQ(pointing::cibledec, 546 * 600 + 327670);
+    EXPECT_EQ(pointing::reticulead, -610);
+}
+
 TEST_F(Equa, fichier_de_mecanique_court) {
     lbEtoiles.double_clic(7);
     base::ecrit_fichier(dossier / "data/config_equa.ini", "48\r\n24\r\n130\r\n");
