@@ -84,6 +84,20 @@ TEST_F(Equa, pas_fractionnaires) {
     EXPECT_EQ(monture.compte().alt0, 1075u + 1u); // 48000 / (216000 / 4840) = 1075.6
 }
 
+// A slew's delay is its count, 30 ns each, two a pulse; one that is negative is none.
+TEST_F(Equa, duree_d_une_impulsion) {
+    cmd_moteur::vitesseequa.fill(base::entier32{1000});
+    cmd_moteur::vitesseequa[8] = -5; // declination, class 3
+    lbEtoiles.double_clic(7);
+    pointing::reticulead = 0;
+    pointing::reticuledec = 0;
+    const auto avant = boucle.temps();
+    choix.lbCatalogue.choisit(0);
+    choix.bOK.clic();
+    EXPECT_EQ(boucle.temps() - avant, 2 * 1000 * 30);
+    EXPECT_EQ(port.dernieres(4), (std::vector<banc::ecriture>{{888, 8}, {888, 12}, {888, 0}, {888, 1}}));
+}
+
 TEST_F(Equa, boutons_dessines) {
     using frmequapointage::Picinit;
     using frmequapointage::picpointage;
