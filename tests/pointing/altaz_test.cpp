@@ -111,6 +111,22 @@ TEST_F(Altaz, les_barres_restent) {
     EXPECT_EQ(pointing::distaz, az - (az - 0.4 * angpasaz));
 }
 
+// So does a stop after the first pulse of a second pass, which has not written its bar yet: both axes arrive.
+TEST_F(Altaz, arret_au_debut_d_une_seconde_passe) {
+    vise();
+    recule(5.5, 7.5);
+    pointing::pointealtaz();
+    recule(5.5, 7.5);
+    boucle.programme(60'000, "", [] { frmDepl::cmstoppointage.appuie(); });
+    pointing::pointealtaz();
+    EXPECT_EQ(compte_az(), 1u);
+    EXPECT_EQ(compte_alt(), 0u);
+    EXPECT_EQ(posaz, az);
+    EXPECT_EQ(posalt, alt);
+    EXPECT_EQ(pointing::distaz, 0);
+    EXPECT_EQ(pointing::distalt, 0);
+}
+
 TEST_F(Altaz, un_alignement_puis_le_meme_objet) {
     base::ecrit_fichier(dossier / "data/messier.cat", "M1,GL,3650,12300\r\nM2,GL,3650,300\r\n");
     frmaltazpointage::fiche.decharge();

@@ -84,6 +84,20 @@ TEST_F(Equa, pas_fractionnaires) {
     EXPECT_EQ(monture.compte().alt0, 1075u + 1u); // 48000 / (216000 / 4840) = 1075.6
 }
 
+// A slew's delay is its count, 30 ns each, two a pulse; one that is negative is none.
+TEST_F(Equa, duree_d_une_impulsion) {
+    cmd_moteur::vitesseequa.fill(base::entier32{1000});
+    cmd_moteur::vitesseequa[8] = -5; // declination, class 3
+    lbEtoiles.double_clic(7);
+    pointing::reticulead = 0;
+    pointing::reticuledec = 0;
+    const auto avant = boucle.temps();
+    choix.lbCatalogue.choisit(0);
+    choix.bOK.clic();
+    EXPECT_EQ(boucle.temps() - avant, 2 * 1000 * 30);
+    EXPECT_EQ(port.dernieres(4), (std::vector<banc::ecriture>{{888, 8}, {888, 12}, {888, 0}, {888, 1}}));
+}
+
 TEST_F(Equa, boutons_dessines) {
     using frmequapointage::Picinit;
     using frmequapointage::picpointage;
@@ -140,6 +154,30 @@ TEST_F(Equa, classes_rendues) {
     EXPECT_TRUE(vu);
     EXPECT_EQ(cmd_moteur::classevitaz, 1);
     EXPECT_EQ(cmd_moteur::classevitalt, 2);
+}
+
+// What does not fit 16 bits is fatal before anything moves; a target beyond the sky is none of its business.
+TEST_F(Equa, entree_trop_grande) {
+    lbEtoiles.double_clic(7);
+    choix.lbCatalogue.choisit(0);
+    const auto entre = [](const char* h, const char* m, const char* d, const char* n) {
+        choix.tAD(0).ecrit(h);
+        choix.tAD(1).ecrit(m);
+        choix.tDec(0).ecrit(d);
+        choix.tDec(1).ecrit(n);
+        choix.bOK.clic();
+    };
+    for (const auto& [h, m, d, n] :
+         {std::array{"55", "0", "0", "0"}, std::array{"54", "37", "0", "0"}, std::array{"-55", "0", "0", "0"},
+          std::array{"32768", "0", "0", "0"}, std::array{"0", "0", "547", "0"},
+          std::array{"0", "0", "0", "32768"}, std::array{"1e300", "0", "0", "0"}})
+        essais::attend_echec(base::cause::depassement,
+                             [&, h = h, m = m, d = d, n = n] { entre(h, m, d, n); });
+    EXPECT_EQ(monture.compte(), banc::impulsions{});
+    entre("-1", "-0.5", "546", "32767");
+    EXPECT_EQ(pointing::ciblead, -610);
+    EXPECT_EQ(pointing::cibledec, 546 * 600 + 327670);
+    EXPECT_EQ(pointing::reticulead, -610);
 }
 
 TEST_F(Equa, fichier_de_mecanique_court) {
