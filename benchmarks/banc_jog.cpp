@@ -2,6 +2,7 @@
 // period. Needs a display; run it on the xcb platform.
 #include "bench/fenetre_banc.h"
 #include "drive/cmd_moteur.h"
+#include "drive/raquette.h"
 #include "piloting/frmaltazpilot_champs.h"
 #include "platform/linux/attente_precise.h"
 #include "platform/linux/horloge_systeme.h"
@@ -15,6 +16,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <vector>
 
 namespace {
@@ -37,6 +39,21 @@ struct course {
     double impulsions = 0;
     double passes = 0;
 };
+
+// The paddle's loop as the scan runs it, a key held for about `ms` milliseconds.
+course raquette(plateforme::qt::boucle_qt& boucle, banc::port_simule& port, int compte, int ms) {
+    cmd_moteur::port_a_la_raquette();
+    cmd_moteur::slotazm = compte;
+    if (!port.presente(9))
+        std::abort();
+    QTimer::singleShot(ms, [&port] { static_cast<void>(port.presente(banc::port_simule::sans_touche)); });
+    const auto e = port.total_ecritures();
+    const auto p = boucle.passes();
+    const auto debut = clock_mono::now();
+    cmd_moteur::scruteraquette();
+    return {ecoule(debut), static_cast<double>(port.total_ecritures() - e) / 2,
+            static_cast<double>(boucle.passes() - p)};
+}
 
 // One jog to the right, started and stopped as an observer does, for about `ms` milliseconds.
 course jog(plateforme::qt::boucle_qt& boucle, banc::port_simule& port, int compte, int ms) {
@@ -89,6 +106,18 @@ void vitesse(plateforme::qt::boucle_qt& boucle, banc::port_simule& port) {
                 1 / cadence / plancher);
 }
 
+// In turn, so that both meet the same machine.
+void compare_raquette(plateforme::qt::boucle_qt& boucle, banc::port_simule& port, int compte) {
+    std::vector<double> rapports;
+    for (int i = 0; i < repetitions; ++i) {
+        const auto j = jog(boucle, port, compte, 400);
+        const auto r = raquette(boucle, port, compte, 400);
+        rapports.push_back(r.impulsions / r.secondes / (j.impulsions / j.secondes));
+    }
+    std::printf("raquette / jog, compte %d : %.2f en cadence (médiane de %d)\n", compte, mediane(rapports),
+                repetitions);
+}
+
 void periode(plateforme::qt::boucle_qt& boucle, banc::port_simule& port, int ms_par_attente) {
     const auto compte = static_cast<int>(ms_par_attente * 1'000'000 / plateforme::ns_par_compte) - 1;
     const double nominale = 2e-9 * static_cast<double>((compte + 1) * plateforme::ns_par_compte);
@@ -133,6 +162,8 @@ int main(int argc, char** argv) {
 
     std::printf("plateforme %s\n", qPrintable(QGuiApplication::platformName()));
     vitesse(s.boucle(), port);
+    compare_raquette(s.boucle(), port, 0);
+    compare_raquette(s.boucle(), port, 1000);
     periode(s.boucle(), port, 1);
     periode(s.boucle(), port, 10);
 }

@@ -72,6 +72,8 @@ QPalette couleurs() {
 void prepare() {
     // Qt's own event dispatcher takes half the time of GLib's for a pass with nothing to do.
     qputenv("QT_NO_GLIB", "1");
+    // Nothing here draws by OpenGL: its libraries would only lengthen the start.
+    qputenv("QT_XCB_GL_INTEGRATION", "none");
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QGuiApplication::setDesktopSettingsAware(false);
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
