@@ -20,8 +20,14 @@
 #include "settings/frmconfig_champs.h"
 #include "settings/frmequaconfig.h"
 #include "settings/frmequaconfig_champs.h"
+#include "shell/Frmnotes.h"
+#include "shell/Frmnotes_champs.h"
+#include "shell/frmaide.h"
+#include "shell/frmaide_champs.h"
 #include "shell/frmcoord.h"
 #include "shell/frmcoord_champs.h"
+#include "shell/frmcopyright.h"
+#include "shell/frmcopyright_champs.h"
 #include "shell/frminterface.h"
 #include "shell/frminterface_champs.h"
 #include "shell/frmintro_champs.h"
@@ -51,6 +57,9 @@ std::vector<shell::panneau*> panneaux() {
     frmaltazpointage::fiche.construit(frmaltazpointage::controles());
     frmequapointage::fiche.construit(frmequapointage::controles());
     frmDepl::fiche.construit(frmDepl::controles());
+    Frmnotes::fiche.construit(Frmnotes::controles());
+    frmaide::fiche.construit(frmaide::controles());
+    frmcopyright::fiche.construit(frmcopyright::controles());
 
     frminterface::branche();
     frmaltazpilot::branche();
@@ -62,6 +71,9 @@ std::vector<shell::panneau*> panneaux() {
     frmaltazpointage::branche();
     frmequapointage::branche();
     frmDepl::branche();
+    Frmnotes::branche();
+    frmaide::branche();
+    frmcopyright::branche();
 
     return {
         &frminterface::fiche,
@@ -76,6 +88,9 @@ std::vector<shell::panneau*> panneaux() {
         &frmequapointage::fiche,
         &frmDepl::fiche,
         &frmaltazsuivi::fiche,
+        &Frmnotes::fiche,
+        &frmaide::fiche,
+        &frmcopyright::fiche,
     };
 }
 
