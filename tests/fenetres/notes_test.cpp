@@ -4,10 +4,12 @@
 #include "base/octets.h"
 
 #include <QAction>
+#include <QLabel>
 #include <QMdiArea>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QScrollBar>
+#include <cstdlib>
 #include <filesystem>
 
 namespace {
