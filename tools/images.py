@@ -10,6 +10,8 @@ What lies where in pictures/:
     icones/     toolbar icons               -> ressources/icones/, 24 px and @2x, @3x
     boutons/    pictures on buttons         -> ressources/boutons/, 32 px and @2x, @3x
     raquette/   parts of the hand paddle    -> ressources/raquette/, their own size and @2x, @3x
+    fenetres/   pictures in small windows   -> ressources/fenetres/, their own size and @2x, @3x
+    fond        ground of the about window  -> ressources/fenetres/fond.png, 500 x 500
     accueil     splash picture              -> ressources/accueil.png and @2x
     velmoria, velmoria-banc                 -> program icons, one file a size
 
@@ -115,13 +117,15 @@ def produit(racine):
         ecrit_gif(dessine(f"img/{nom}", largeur * ECHELLE_FACES, hauteur * ECHELLE_FACES), img / f"{nom}.gif")
     (img / "liste.txt").write_bytes("".join(f"{nom}\r\n" for nom in FACES).encode("cp1252"))
 
-    for dossier in ("icones", "boutons", "raquette"):
+    for dossier in ("icones", "boutons", "raquette", "fenetres"):
         for source in sorted(SOURCES.glob(f"{dossier}/*.svg")):
             a_echelles(f"{dossier}/{source.stem}", ressources, (1, 2, 3))
     largeur, hauteur = taille_logique(SOURCES / "accueil.svg")
     for echelle, suffixe in ((1, ""), (2, "@2x")):
         image = dessine("accueil", largeur * echelle, hauteur * echelle)
         en_palette(image).save(ressources / f"accueil{suffixe}.png", "PNG", optimize=True)
+    fond = en_palette(dessine("fond", *taille_logique(SOURCES / "fond.svg")))
+    fond.save(ressources / "fenetres/fond.png", "PNG", optimize=True)
     for nom in ("velmoria", "velmoria-banc"):
         for cote in COTES_PROGRAMME:
             ecrit_png(dessine(nom, cote, cote), ressources / f"{nom}-{cote}.png")

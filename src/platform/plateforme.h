@@ -60,7 +60,8 @@ struct machine {
     plateforme::horloge* horloge = nullptr;
     plateforme::boucle* boucle = nullptr;
     plateforme::vue* vue = nullptr;
-    std::filesystem::path donnees; ///< the data folder
+    std::filesystem::path donnees;       ///< the data folder
+    std::filesystem::path aide = "aide"; ///< the help pages' folder, relative where no one will open them
 };
 
 /// The machine in use. Installed once at start (again by each test).

@@ -29,10 +29,14 @@ std::size_t fin_de_ligne(std::string_view t, std::size_t i) {
 lecteur::lecteur(const std::filesystem::path& chemin, separateurs s)
     : nom_(chemin.string()), octets_(base::lit_fichier(chemin)), separateurs_(s) {}
 
-std::string_view lecteur::suivante() {
+void lecteur::compte(const char* quoi) {
     if (fini())
-        base::fatale(base::cause::fin_de_fichier, nom_ + ", valeur " + std::to_string(lues_ + 1));
+        base::fatale(base::cause::fin_de_fichier, nom_ + ", " + quoi + " " + std::to_string(lues_ + 1));
     ++lues_;
+}
+
+std::string_view lecteur::suivante() {
+    compte("valeur");
     const std::string_view tout{octets_};
     const bool colonnes = separateurs_ == separateurs::virgule_ou_blanc;
     while (place_ < tout.size() && blanc(tout[place_]))
@@ -81,6 +85,18 @@ std::string lecteur::champ() {
 double lecteur::nombre() { return base::nombre(suivante()); }
 
 bool lecteur::vrai() { return suivante() == "Vrai"; }
+
+std::string lecteur::ligne() {
+    compte("ligne");
+    const std::string_view tout{octets_};
+    const std::size_t debut = place_;
+    while (place_ < tout.size() && fin_de_ligne(tout, place_) == 0)
+        ++place_;
+    const auto contenu = tout.substr(debut, place_ - debut);
+    if (place_ < tout.size())
+        place_ += fin_de_ligne(tout, place_);
+    return base::de_1252(contenu);
+}
 
 void ecrivain::texte(std::string_view utf8) { octets_ += base::vers_1252(utf8) + "\r\n"; }
 void ecrivain::nombre(double x) { octets_ += base::texte_signe(x) + " \r\n"; }

@@ -40,11 +40,14 @@ class lecteur {
     base::entier32 nombre32() { return base::entier32{nombre()}; }
     /// True only if the next value is exactly "Vrai".
     bool vrai();
+    /// The next line whole as UTF-8 text: commas and blanks belong to it, its line end doesn't.
+    std::string ligne();
 
-    /// How many values have been read.
+    /// How many values, or lines, have been read.
     int lues() const { return lues_; }
 
   private:
+    void compte(const char* quoi); ///< one more is read; fatal at the end of the file
     std::string_view suivante();
 
     std::string nom_;

@@ -17,7 +17,10 @@
 #include "settings/frmequaconfig_champs.h"
 #include "settings/valeurs.h"
 #include "settings/vitesses.h"
+#include "shell/Frmnotes_champs.h"
+#include "shell/frmaide_champs.h"
 #include "shell/frmcoord_champs.h"
+#include "shell/frmcopyright_champs.h"
 #include "shell/frminterface_champs.h"
 #include "shell/frmintro_champs.h"
 #include "tracking/frmaltazsuivi_champs.h"
@@ -217,7 +220,9 @@ void branche_barres() {
     bargeneral_boutons(2).au_clic(general_raquette);
     bargeneral_boutons(3).au_clic(mode_equatorial);
     bargeneral_boutons(4).au_clic(general_altazimutal);
+    bargeneral_boutons(5).au_clic([] { Frmnotes::fiche.montre(); });
     bargeneral_boutons(6).au_clic([] { plateforme::courante.vue->message("not available yet"); });
+    bargeneral_boutons(7).au_clic([] { frmcopyright::fiche.montre(); });
 }
 
 void branche_menu() {
@@ -234,6 +239,9 @@ void branche_menu() {
         frmconfig::fiche.montre();
         mnusuivi.actif(true);
     });
+    Observations.au_clic([] { Frmnotes::fiche.montre(); });
+    Aide.au_clic([] { frmaide::fiche.montre(); });
+    propos.au_clic([] { frmcopyright::fiche.montre(); });
 }
 
 } // namespace

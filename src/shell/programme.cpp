@@ -20,8 +20,14 @@
 #include "settings/frmconfig_champs.h"
 #include "settings/frmequaconfig.h"
 #include "settings/frmequaconfig_champs.h"
+#include "shell/Frmnotes.h"
+#include "shell/Frmnotes_champs.h"
+#include "shell/frmaide.h"
+#include "shell/frmaide_champs.h"
 #include "shell/frmcoord.h"
 #include "shell/frmcoord_champs.h"
+#include "shell/frmcopyright.h"
+#include "shell/frmcopyright_champs.h"
 #include "shell/frminterface.h"
 #include "shell/frminterface_champs.h"
 #include "shell/frmintro_champs.h"
@@ -54,6 +60,9 @@ std::vector<shell::panneau*> panneaux() {
     frmaltazpointage::fiche.construit(frmaltazpointage::controles());
     frmequapointage::fiche.construit(frmequapointage::controles());
     frmDepl::fiche.construit(frmDepl::controles());
+    Frmnotes::fiche.construit(Frmnotes::controles());
+    frmaide::fiche.construit(frmaide::controles());
+    frmcopyright::fiche.construit(frmcopyright::controles());
 
     frminterface::branche();
     frmaltazpilot::branche();
@@ -66,11 +75,26 @@ std::vector<shell::panneau*> panneaux() {
     frmequapointage::branche();
     frmDepl::branche();
     frmaltazsuivi::branche();
+    Frmnotes::branche();
+    frmaide::branche();
+    frmcopyright::branche();
 
     return {
-        &frminterface::fiche,     &frmintro::fiche,        &frmcoord::fiche,     &frmconfig::fiche,
-        &frmequaconfig::fiche,    &frmaltazpilot::fiche,   &frmequapilot::fiche, &frmraquette::fiche,
-        &frmaltazpointage::fiche, &frmequapointage::fiche, &frmDepl::fiche,      &frmaltazsuivi::fiche,
+        &frminterface::fiche,
+        &frmintro::fiche,
+        &frmcoord::fiche,
+        &frmconfig::fiche,
+        &frmequaconfig::fiche,
+        &frmaltazpilot::fiche,
+        &frmequapilot::fiche,
+        &frmraquette::fiche,
+        &frmaltazpointage::fiche,
+        &frmequapointage::fiche,
+        &frmDepl::fiche,
+        &frmaltazsuivi::fiche,
+        &Frmnotes::fiche,
+        &frmaide::fiche,
+        &frmcopyright::fiche,
     };
 }
 

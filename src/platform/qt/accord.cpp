@@ -32,7 +32,7 @@ void texte_saisi(const controle& c, QObject* piece) {
         auto* w = en<QPlainTextEdit>(piece);
         auto lignes = t;
         lignes.replace("\r\n", "\n");
-        if (w->toPlainText() != lignes)
+        if (lignes_de(*w) != lignes)
             w->setPlainText(lignes);
         return;
     }
@@ -173,6 +173,12 @@ void place(const controle& c, QObject* piece) {
 }
 
 } // namespace
+
+QString lignes_de(const QPlainTextEdit& w) {
+    auto t = w.document()->toRawText();
+    t.replace(QChar::ParagraphSeparator, '\n');
+    return t.replace(QChar::LineSeparator, '\n'); // what Shift and Return put in
+}
 
 void accorde(const controle& c, QObject* piece, aspect a) {
     // Actions must tell their menus, and toolbars that they are seen; the others' signals stand for the user.

@@ -3,7 +3,10 @@
 
 #include "shell/controles.h"
 
+#include <QString>
+
 class QObject;
+class QPlainTextEdit;
 
 namespace plateforme::qt {
 
@@ -12,5 +15,9 @@ void accorde(const shell::controle& c, QObject* piece, aspect a);
 
 /// All that its kind shows.
 void accorde_tout(const shell::controle& c, QObject* piece);
+
+/// The text of a field of several lines, each ended by LF but the last. Qt's own plain text would turn
+/// no-break blanks into ordinary ones.
+QString lignes_de(const QPlainTextEdit& w);
 
 } // namespace plateforme::qt

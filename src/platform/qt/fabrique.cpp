@@ -35,10 +35,11 @@ QWidget* texte(champ_texte& c, QWidget* parent) {
         w->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
         w->setTabChangesFocus(true);
         w->setContextMenuPolicy(Qt::NoContextMenu); // its entries would not be in French
-        QObject::connect(w, &QPlainTextEdit::textChanged, w, [w, &c] {
-            auto t = w->toPlainText();
-            c.saisit(lu(t.replace("\n", "\r\n")));
-        });
+        QFont police{QStringList{"Arial", w->font().family()}};
+        police.setPixelSize(w->font().pixelSize());
+        w->setFont(police);
+        QObject::connect(w, &QPlainTextEdit::textChanged, w,
+                         [w, &c] { c.saisit(lu(lignes_de(*w).replace("\n", "\r\n"))); });
         return w;
     }
     auto* w = new QLineEdit{parent};

@@ -28,7 +28,8 @@ seance::seance(int argc, char** argv, composition c) : argc_(argc), c_(std::move
     auto donnees = c_.donnees;
     if (donnees.empty())
         donnees = std::filesystem::path{QCoreApplication::applicationDirPath().toStdString()} / "data";
-    courante = {&c_.port, &c_.horloge, boucle_.get(), vue_.get(), donnees};
+    const auto aide = std::filesystem::absolute(donnees).lexically_normal().parent_path() / "aide";
+    courante = {&c_.port, &c_.horloge, boucle_.get(), vue_.get(), donnees, aide};
     base::installe_gestionnaire(echoue);
     programme::construit();
 }

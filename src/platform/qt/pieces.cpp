@@ -42,6 +42,29 @@ void bouton::keyPressEvent(QKeyEvent* e) {
 
 // ---- label
 
+namespace {
+
+// A label breaks between words only; in a word too long for a line, such as a path, it may break anywhere.
+QString secable(const QString& texte) {
+    constexpr int mot_long = 24;
+    constexpr QChar coupure{0x200B}; // takes no room
+    auto mots = texte.split(' ');
+    for (auto& mot : mots) {
+        if (mot.size() < mot_long)
+            continue;
+        QString coupe;
+        for (const auto c : mot) {
+            coupe += c;
+            if (!c.isHighSurrogate())
+                coupe += coupure;
+        }
+        mot = coupe;
+    }
+    return mots.join(' ');
+}
+
+} // namespace
+
 etiquette::etiquette(shell::champ_etiquette& c, QWidget* parent) : QLabel(parent), champ_(c) {
     setTextFormat(Qt::PlainText);
     setWordWrap(!c.a(shell::symbole));
@@ -55,7 +78,7 @@ etiquette::etiquette(shell::champ_etiquette& c, QWidget* parent) : QLabel(parent
 
 void etiquette::ecrit(const std::string& texte) {
     if (!champ_.a(shell::symbole))
-        setText(affiche(texte));
+        setText(secable(affiche(texte)));
     else
         setText(texte == "7" ? "◀◀" : texte == "8" ? "▶▶" : affiche(texte));
 }
