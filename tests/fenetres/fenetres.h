@@ -8,6 +8,7 @@
 #include "shell/programme.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QMdiSubWindow>
 #include <QTest>
 #include <QTimer>
@@ -45,19 +46,28 @@ class port_temoin final : public plateforme::port {
 
 class horloge_arretee final : public plateforme::horloge {
   public:
-    plateforme::instant maintenant() override { return {2001, 8, 15, 22, 0, 0, 0}; }
+    plateforme::instant maintenant() override {
+        ++lectures;
+        return {2001, 8, 15, 22, 0, 0, 0};
+    }
+    int lectures = 0; ///< one a tick of the clock
 };
 
 class fenetres : public testing::Test {
   protected:
-    explicit fenetres(const char* echelle = "1", const char* donnees = DONNEES) {
+    explicit fenetres(const char* echelle = "1", std::filesystem::path donnees = DONNEES)
+        : fenetres({.port = port,
+                    .horloge = horloge,
+                    .attente = [](std::int64_t) {},
+                    .donnees = std::move(donnees)},
+                   echelle) {}
+
+    /// On a machine of the test's own.
+    explicit fenetres(plateforme::qt::composition c, const char* echelle = "1") {
         qputenv("QT_SCALE_FACTOR", echelle);
         static char nom[] = "essais";
         static char* arguments[] = {nom, nullptr};
-        s = std::make_unique<plateforme::qt::seance>(
-            1, arguments,
-            plateforme::qt::composition{
-                .port = port, .horloge = horloge, .attente = [](std::int64_t) {}, .donnees = donnees});
+        s = std::make_unique<plateforme::qt::seance>(1, arguments, std::move(c));
     }
 
     void SetUp() override {
@@ -79,6 +89,15 @@ class fenetres : public testing::Test {
     }
 
     void clique(const char* fiche, const char* nom) { QTest::mouseClick(piece(fiche, nom), Qt::LeftButton); }
+
+    /// Types over what stands in a field.
+    void tape(const char* fiche, const char* nom, const char* texte) {
+        auto* champ = static_cast<QLineEdit*>(piece(fiche, nom));
+        champ->setFocus();
+        champ->selectAll();
+        QTest::keyClick(champ, Qt::Key_Delete);
+        QTest::keyClicks(champ, texte);
+    }
 
     shell::panneau& fiche(const char* nom) { return *programme::registre().trouve_panneau(nom); }
 
