@@ -8,21 +8,21 @@ namespace general {
 using base::entier16;
 using base::entier32;
 
-double ecritheure(int heure) {
-    frmcoord::txth.ecrit(entier16{heure});
-    const double lue = frmcoord::txth.nombre();
-    if (lue == 0)
+void ecritheure(int heure) {
+    frmcoord::fiche.charge(); // whose load chooses the offset
+    // Written once: a field that changes is painted.
+    if (heure == 0)
         frmcoord::txth.ecrit(entier16{24} - decalageheure);
-    else if (lue == 1)
+    else if (heure == 1)
         frmcoord::txth.ecrit(decalageheure == 1 ? "0" : "23");
     else
         frmcoord::txth.ecrit(entier16{heure} - decalageheure);
-    return lue;
 }
 
 void synchro_heure() {
     const auto t = plateforme::maintenant();
-    if (ecritheure(t.heure) == 0) {
+    ecritheure(t.heure);
+    if (t.heure == 0) {
         frmcoord::cbjour.position(t.jour - 2);
         lit_almanach();
     }

@@ -13,8 +13,8 @@ inline base::entier16
 /// the day before and the almanac is read; hour 1 leaves the date alone.
 void synchro_heure();
 
-/// Writes an hour of the computer's clock to `txth` as a universal one and gives it as read back.
-double ecritheure(int heure);
+/// Writes an hour of the computer's clock to `txth` as a universal one.
+void ecritheure(int heure);
 
 /// Sets the date lists of `frmcoord` to a date. A year outside 2000 to 2009 is fatal (`propriete`).
 void ecritdate(const plateforme::instant& date);

@@ -8,6 +8,7 @@
 #include "shell/programme.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QMdiSubWindow>
 #include <QTest>
 #include <QTimer>
@@ -45,25 +46,24 @@ class port_temoin final : public plateforme::port {
 
 class horloge_arretee final : public plateforme::horloge {
   public:
-    plateforme::instant maintenant() override { return {2001, 8, 15, 22, 0, seconde, 0}; }
-    int seconde = 0; ///< moved by the test
+    plateforme::instant maintenant() override {
+        ++lectures;
+        return {2001, 8, 15, 22, 0, seconde, 0};
+    }
+    int lectures = 0; ///< one a tick of the clock
+    int seconde = 0;  ///< moved by the test
 };
 
 class fenetres : public testing::Test {
   protected:
-    /// On a port of the test's own, if one is given.
-    explicit fenetres(const char* echelle = "1", const char* donnees = DONNEES,
-                      plateforme::port* autre_port = nullptr) {
-        qputenv("QT_SCALE_FACTOR", echelle);
-        static char nom[] = "essais";
-        static char* arguments[] = {nom, nullptr};
-        s = std::make_unique<plateforme::qt::seance>(
-            1, arguments,
-            plateforme::qt::composition{.port = autre_port ? *autre_port : port,
-                                        .horloge = horloge,
-                                        .attente = [](std::int64_t) {},
-                                        .donnees = donnees});
+    explicit fenetres(const char* echelle = "1", std::filesystem::path donnees = DONNEES) {
+        cree(
+            {.port = port, .horloge = horloge, .attente = [](std::int64_t) {}, .donnees = std::move(donnees)},
+            echelle);
     }
+
+    /// On a machine of the test's own.
+    explicit fenetres(plateforme::qt::composition c) { cree(std::move(c), "1"); }
 
     void SetUp() override {
         s->demarre();
@@ -85,11 +85,28 @@ class fenetres : public testing::Test {
 
     void clique(const char* fiche, const char* nom) { QTest::mouseClick(piece(fiche, nom), Qt::LeftButton); }
 
+    /// Types over what stands in a field.
+    void tape(const char* fiche, const char* nom, const char* texte) {
+        auto* champ = static_cast<QLineEdit*>(piece(fiche, nom));
+        champ->setFocus();
+        champ->selectAll();
+        QTest::keyClick(champ, Qt::Key_Delete);
+        QTest::keyClicks(champ, texte);
+    }
+
     shell::panneau& fiche(const char* nom) { return *programme::registre().trouve_panneau(nom); }
 
     port_temoin port;
     horloge_arretee horloge;
     std::unique_ptr<plateforme::qt::seance> s;
+
+  private:
+    void cree(plateforme::qt::composition c, const char* echelle) {
+        qputenv("QT_SCALE_FACTOR", echelle);
+        static char nom[] = "essais";
+        static char* arguments[] = {nom, nullptr};
+        s = std::make_unique<plateforme::qt::seance>(1, arguments, std::move(c));
+    }
 };
 
 } // namespace essais

@@ -15,16 +15,20 @@ using banc::touche_raquette;
 
 // Made before the program that runs on it.
 struct avec_etabli {
-    std::int64_t temps = 0; // the bench's lateness is no matter here
-    banc::etabli etabli{[this] { return temps; }};
+    banc::etabli etabli{[] { return std::int64_t{0}; }}; // its lateness is no matter here
+    banc::horloge_banc civile{[] { return std::int64_t{0}; }, [] { return 0; }};
 };
 
 class raquette_du_banc : protected avec_etabli, public essais::fenetres {
   protected:
-    raquette_du_banc() : fenetres("1", DONNEES, &etabli.port()) {}
+    raquette_du_banc()
+        : fenetres({.port = etabli.port(),
+                    .horloge = civile,
+                    .attente = [](std::int64_t) {},
+                    .donnees = DONNEES}) {}
     void SetUp() override {
         fenetres::SetUp();
-        fenetre = std::make_unique<banc::fenetre_banc>(etabli, horloge_du_banc);
+        fenetre = std::make_unique<banc::fenetre_banc>(etabli, civile);
         fenetre->show();
         fenetre->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(fenetre.get()));
@@ -32,7 +36,6 @@ class raquette_du_banc : protected avec_etabli, public essais::fenetres {
     QPushButton* touche(const char* nom) { return fenetre->findChild<QPushButton*>(nom); }
     banc::impulsions comptes() { return etabli.mount().compte(); }
 
-    banc::horloge_banc horloge_du_banc{[] { return std::int64_t{0}; }, [] { return 0; }};
     std::unique_ptr<banc::fenetre_banc> fenetre;
 };
 

@@ -16,12 +16,6 @@ class suivi : public essais::fenetres {
     QString texte(const char* panneau, const char* nom) {
         return static_cast<QLineEdit*>(piece(panneau, nom))->text();
     }
-    void tape(const char* panneau, const char* nom, const char* quoi) {
-        auto* champ = static_cast<QLineEdit*>(piece(panneau, nom));
-        QTest::mouseClick(champ, Qt::LeftButton);
-        champ->selectAll();
-        QTest::keyClicks(champ, quoi);
-    }
 };
 
 TEST_F(suivi, an_object_is_chosen_followed_paused_resumed_and_left) {

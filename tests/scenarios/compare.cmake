@@ -1,4 +1,5 @@
-# Plays SCENARIO with PROGRAMME and compares what it prints and its exit status with what is expected.
+# Plays SCENARIO with PROGRAMME and compares what it prints and its exit status with what is expected. What follows
+# "# explication " in it must stand in the explanations.
 execute_process(COMMAND ${PROGRAMME} ${SCENARIO} OUTPUT_VARIABLE obtenu ERROR_VARIABLE explications
                 RESULT_VARIABLE statut)
 file(STRINGS ${SCENARIO} lignes REGEX "^# statut [0-9]+$" LIMIT_COUNT 1)
@@ -10,6 +11,12 @@ string(REGEX REPLACE "\\.scn$" ".attendu" attendu_fichier ${SCENARIO})
 file(READ ${attendu_fichier} attendu)
 if(NOT statut EQUAL statut_attendu)
   message(FATAL_ERROR "status ${statut}, expected ${statut_attendu}\n${explications}\n${obtenu}")
+endif()
+file(STRINGS ${SCENARIO} explication REGEX "^# explication " LIMIT_COUNT 1)
+string(REPLACE "# explication " "" explication "${explication}")
+string(FIND "${explications}" "${explication}" ou)
+if(ou EQUAL -1)
+  message(FATAL_ERROR "no \"${explication}\" in the explanations\n${explications}")
 endif()
 if(NOT obtenu STREQUAL attendu)
   string(RANDOM LENGTH 8 alea)

@@ -129,6 +129,14 @@ TEST(frmcoord, pas_comptes) {
     EXPECT_EQ(cmd_moteur::compteaz, 0);
     EXPECT_EQ(cmd_moteur::comptealt, 0);
     EXPECT_EQ(general::posaz, 225);
+    // So does a tick's first access, which then goes by the season that the load chose.
+    m.horloge.t = le(2, 10, 15);
+    cmd_moteur::compteaz = 10;
+    frmcoord::fiche.decharge();
+    ASSERT_TRUE(m.boucle.tic(frminterface::heuretimer));
+    EXPECT_EQ(frmcoord::txth.lit(), "14");
+    EXPECT_EQ(frmcoord::txtcoordaz3.lit(), "45") << "the tick goes on after the load";
+    EXPECT_EQ(general::posaz, 225);
 }
 
 } // namespace

@@ -1,0 +1,202 @@
+// The clock's tick, the conversion and the catalogue lists on the live windows, and what the program costs
+// while it stands idle in alt-azimuth mode. Needs a display; run it on the xcb platform.
+#include "bench/fenetre_banc.h"
+#include "platform/linux/attente_precise.h"
+#include "platform/linux/horloge_systeme.h"
+#include "platform/qt/boucle_qt.h"
+#include "platform/qt/lance.h"
+#include "platform/qt/vue_qt.h"
+#include "settings/frmconfig_champs.h"
+#include "shell/frmcoord_champs.h"
+#include "shell/frminterface_champs.h"
+#include "sky/almanach.h"
+#include "sky/conversion.h"
+#include "sky/heure.h"
+#include "sky/position.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QTimer>
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <fstream>
+#include <sys/resource.h>
+#include <vector>
+
+namespace {
+
+using clock_mono = std::chrono::steady_clock;
+
+double microsecondes(clock_mono::duration d) { return std::chrono::duration<double, std::micro>{d}.count(); }
+
+double mediane(std::vector<double> v) {
+    std::sort(v.begin(), v.end());
+    return v[v.size() / 2];
+}
+
+void attends(double secondes) {
+    QEventLoop boucle;
+    QTimer::singleShot(static_cast<int>(secondes * 1000), &boucle, &QEventLoop::quit);
+    boucle.exec();
+}
+
+// The store alone, without a window.
+class vue_muette final : public plateforme::vue {
+  public:
+    void panneau_change(const shell::panneau&) override {}
+    void eleve(const shell::panneau&) override {}
+    void repeint(const shell::panneau&) override {}
+    void controle_change(const shell::controle&, plateforme::aspect) override {}
+    shell::entree* ouvre_menu(shell::entree&, const shell::entree*) override { return nullptr; }
+    void message(const std::string&) override {}
+    plateforme::image charge_image(const std::filesystem::path&) override { return {}; }
+};
+
+class peintures final : public QObject {
+  public:
+    peintures() { qApp->installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* e) override {
+        nombre += e->type() == QEvent::Paint;
+        return false;
+    }
+    int nombre = 0;
+};
+
+// Handler with and without the widgets' new texts, and then what paints them.
+void mesure_tic() {
+    constexpr int tours = 300;
+    vue_muette muette;
+    auto* vraie = plateforme::courante.vue;
+    std::vector<double> magasin, widgets, peinture, inchange;
+    peintures p;
+    int peints = 0;
+    const auto tic = [](std::vector<double>& durees, double pas) {
+        general::posaz += pas;
+        general::posalt += pas;
+        const auto debut = clock_mono::now();
+        frminterface::heuretimer.tic();
+        durees.push_back(microsecondes(clock_mono::now() - debut));
+    };
+    for (int i = 0; i < tours; ++i) {
+        plateforme::courante.vue = &muette;
+        tic(magasin, 3661.25);
+        plateforme::courante.vue = vraie;
+        tic(widgets, 3661.25);
+        p.nombre = 0;
+        const auto debut = clock_mono::now();
+        while (p.nombre == 0 && microsecondes(clock_mono::now() - debut) < 1e6)
+            QCoreApplication::processEvents(QEventLoop::AllEvents);
+        peinture.push_back(microsecondes(clock_mono::now() - debut));
+        peints += p.nombre;
+    }
+    for (int i = 0; i < tours; ++i)
+        tic(inchange, 0);
+    std::printf("tic, position changée : gestionnaire et magasin %.1f µs (médiane de %d, au plus 100), avec "
+                "les textes des fenêtres %.1f µs\n",
+                mediane(magasin), tours, mediane(widgets));
+    std::printf("peinture qui suit : %.0f µs (au plus 1500), %.1f événements de peinture\n",
+                mediane(peinture), static_cast<double>(peints) / tours);
+    std::printf("tic qui ne change rien : %.1f µs\n", mediane(inchange));
+}
+
+void mesure_conversion() {
+    constexpr int lot = 200;
+    general::lit_almanach();
+    std::vector<double> durees;
+    for (int i = 0; i < 101; ++i) {
+        const auto debut = clock_mono::now();
+        for (int k = 0; k < lot; ++k)
+            general::calcul_altaz();
+        durees.push_back(microsecondes(clock_mono::now() - debut) / lot);
+    }
+    std::printf("calcul_altaz : %.2f µs (au plus 20)\n", mediane(durees));
+}
+
+// The catalogue with the most records, chosen in the panel's list; a small one in between.
+void mesure_catalogue() {
+    constexpr int petit = 1;
+    constexpr int grand = 2;
+    frmconfig::lbCatalogue.choisit(grand);
+    const int lignes = frmconfig::lbObjets.lignes();
+    std::vector<double> durees, peinture;
+    peintures p;
+    for (int i = 0; i < 51; ++i) {
+        frmconfig::lbCatalogue.choisit(petit);
+        attends(0.02);
+        auto debut = clock_mono::now();
+        frmconfig::lbCatalogue.choisit(grand);
+        durees.push_back(microsecondes(clock_mono::now() - debut));
+        p.nombre = 0;
+        debut = clock_mono::now();
+        while (p.nombre == 0 && microsecondes(clock_mono::now() - debut) < 1e6)
+            QCoreApplication::processEvents(QEventLoop::AllEvents);
+        peinture.push_back(microsecondes(clock_mono::now() - debut));
+    }
+    std::printf("catalogue de %d objets dans sa liste, fenêtre comprise : %.2f ms (au plus 5), peinture "
+                "%.2f ms\n",
+                lignes, mediane(durees) / 1e3, mediane(peinture) / 1e3);
+}
+
+double processeur() {
+    rusage u{};
+    getrusage(RUSAGE_SELF, &u);
+    double s = 0;
+    for (const auto& t : {u.ru_utime, u.ru_stime})
+        s += static_cast<double>(t.tv_sec) + static_cast<double>(t.tv_usec) / 1e6;
+    return s;
+}
+
+double pss() {
+    std::ifstream f{"/proc/self/smaps_rollup"};
+    std::string mot;
+    double ko = 0;
+    while (f >> mot)
+        if (mot == "Pss:" && f >> ko)
+            break;
+    return ko / 1024;
+}
+
+void mesure_repos(const char* ou) {
+    constexpr double duree = 10;
+    attends(1);
+    const peintures p;
+    const double avant = processeur();
+    attends(duree);
+    std::printf("au repos, %s : processeur %.2f %% sur %.0f s (au plus 2), PSS %.1f Mo (au plus 60), %d "
+                "événements de peinture\n",
+                ou, (processeur() - avant) / duree * 100, duree, pss(), p.nombre);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    banc::horloge_banc horloge{plateforme::temps_universel,
+                               [] { return int{general::decalageheure.valeur()}; }};
+    plateforme::attente_precise attente;
+    banc::etabli etabli{plateforme::horloge_monotone};
+    plateforme::qt::seance s{argc,
+                             argv,
+                             {.port = etabli.port(),
+                              .horloge = horloge,
+                              .attente =
+                                  [&](std::int64_t ns) {
+                                      etabli.commence_attente(ns);
+                                      attente.attend(ns);
+                                  },
+                              .apres_cession = [&etabli] { etabli.cession_finie(); },
+                              .donnees = DONNEES}};
+    s.demarre();
+    banc::fenetre_banc fenetre{etabli, horloge};
+    fenetre.show();
+    frminterface::barchoix_boutons(2).clic();
+    std::printf("plateforme %s\n", qPrintable(QGuiApplication::platformName()));
+    mesure_repos("mode altazimutal et fenêtre du banc");
+    frminterface::baraltaz_boutons(6).clic();
+    attends(0.5);
+    frmconfig::lbObjets.choisit(12);
+    frmconfig::cmdchoix.clic();
+    mesure_tic();
+    mesure_conversion();
+    mesure_catalogue();
+}
