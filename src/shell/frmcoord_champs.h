@@ -35,13 +35,13 @@ inline constinit champ_option opthivers{
 
 inline constinit champ_etiquette lbldate{
     fiche, "lbldate", {120, 735, 870, 270}, {.legende = "Date", .cadre = &frheure}};
-inline constinit champ_deroulante cbjour{fiche, "cbjour", {1020, 690, 750, 345}, {.cadre = &frheure}};
-inline constinit champ_deroulante cbmois{fiche, "cbmois", {1815, 690, 1275, 345}, {.cadre = &frheure}};
+inline constinit champ_deroulante cbjour{fiche, "cbjour", {1020, 690, 690, 345}, {.cadre = &frheure}};
+inline constinit champ_deroulante cbmois{fiche, "cbmois", {1740, 690, 1500, 345}, {.cadre = &frheure}};
 // It has no "no selection": position -1, the year 1999, is as fatal as 10.
 inline constinit champ_deroulante cbannee{
-    fiche, "cbannee", {3135, 690, 660, 345}, {.cadre = &frheure, .traits = sans_vide}};
+    fiche, "cbannee", {3270, 690, 570, 345}, {.cadre = &frheure, .traits = sans_vide}};
 inline constinit champ_texte txtessai{
-    fiche, "txtessai", {3840, 690, 750, 345}, {.cadre = &frheure, .traits = centre}};
+    fiche, "txtessai", {3870, 690, 720, 345}, {.cadre = &frheure, .traits = centre}};
 inline constinit champ_option optété{
     fiche, "optété", {4680, 705, 945, 330}, {.legende = "été", .cadre = &frheure}};
 

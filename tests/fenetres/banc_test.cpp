@@ -11,6 +11,7 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <sstream>
 
 namespace {
@@ -122,9 +123,8 @@ TEST_F(banc_d_essai, a_jog_is_counted_and_recorded) {
     cmd_moteur::vitessealtaz.fill(cmd_moteur::entier32{33332}); // half-steps of 1 ms nearly
     avance(5);
     EXPECT_EQ(lu("sens8_az"), "5");
-    char modele[] = "/tmp/velmoria-essai-XXXXXX";
-    const std::filesystem::path dossier = mkdtemp(modele);
-    const auto fichier = dossier / "lignes.vcd";
+    const QTemporaryDir dossier;
+    const std::filesystem::path fichier = dossier.filePath("lignes.vcd").toStdString();
     ecrit("chemin_vcd", fichier.c_str());
     presse("enregistre");
     EXPECT_FALSE(le<QLineEdit>("chemin_vcd")->isEnabled());
@@ -146,7 +146,6 @@ TEST_F(banc_d_essai, a_jog_is_counted_and_recorded) {
     presse("enregistre");
     EXPECT_EQ(lu("etat_vcd"), "Impossible d'écrire /nulle-part/lignes.vcd");
     EXPECT_TRUE(le<QLineEdit>("chemin_vcd")->isEnabled());
-    std::filesystem::remove_all(dossier);
 }
 
 TEST_F(banc_d_essai, counts_mount_and_lateness_start_again) {

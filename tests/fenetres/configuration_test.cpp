@@ -8,18 +8,15 @@
 #include "sky/position.h"
 
 #include <QListWidget>
+#include <QTemporaryDir>
 
 namespace {
 
 // A copy of the delivered data that a test may write to.
 struct donnees_a_soi {
-    donnees_a_soi() {
-        char modele[] = "/tmp/velmoria-essai-XXXXXX";
-        dossier = mkdtemp(modele);
-        std::filesystem::copy(DONNEES, dossier, std::filesystem::copy_options::recursive);
-    }
-    ~donnees_a_soi() { std::filesystem::remove_all(dossier); }
-    std::filesystem::path dossier;
+    donnees_a_soi() { std::filesystem::copy(DONNEES, dossier, std::filesystem::copy_options::recursive); }
+    QTemporaryDir temporaire;
+    std::filesystem::path dossier = temporaire.path().toStdString();
 };
 
 class configuration : private donnees_a_soi, public essais::fenetres {

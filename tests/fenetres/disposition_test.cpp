@@ -5,11 +5,13 @@
 #include "piloting/frmequapilot_champs.h"
 #include "piloting/frmraquette_champs.h"
 
+#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QStyle>
+#include <QStyleOptionComboBox>
 #include <QStyleOptionGroupBox>
 #include <QToolBar>
 #include <QToolButton>
@@ -37,6 +39,16 @@ class disposition : public essais::fenetres, public testing::WithParamInterface<
             return {l->fontMetrics()
                         .boundingRect(l->rect(), l->wordWrap() ? Qt::TextWordWrap : 0, l->text())
                         .size()};
+        if (const auto* c = qobject_cast<const QComboBox*>(w)) {
+            QStyleOptionComboBox o;
+            o.initFrom(c);
+            const auto champ =
+                c->style()->subControlRect(QStyle::CC_ComboBox, &o, QStyle::SC_ComboBoxEditField, c);
+            int largeur = 0;
+            for (int i = 0; i < c->count(); ++i)
+                largeur = std::max(largeur, c->fontMetrics().horizontalAdvance(c->itemText(i)));
+            return {largeur + c->width() - champ.width(), 0};
+        }
         if (const auto* b = qobject_cast<const QPushButton*>(w); b && !b->text().isEmpty())
             return b->fontMetrics().size(Qt::TextShowMnemonic, b->text()) + QSize{8, 4};
         if (const auto* b = qobject_cast<const QAbstractButton*>(w); b && !b->text().isEmpty())
