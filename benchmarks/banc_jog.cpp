@@ -118,6 +118,53 @@ void compare_raquette(plateforme::qt::boucle_qt& boucle, banc::port_simule& port
                 repetitions);
 }
 
+// When the first step line rises.
+class premiere_impulsion final : public banc::temoin {
+  public:
+    void lignes(std::uint8_t donnees, std::uint8_t) override {
+        if (!venue && (donnees & 5) != 0) {
+            venue = true;
+            quand = clock_mono::now();
+        }
+    }
+    bool venue = false;
+    clock_mono::time_point quand;
+};
+
+// From a key of the paddle to the first pulse, the scan coming every 100 ms.
+void latence(banc::port_simule& port) {
+    constexpr int compte = 5000; // the fastest a bar allows
+    const double limite = 100 + 1e-6 * (compte + 1) * static_cast<double>(plateforme::ns_par_compte) + 10;
+    cmd_moteur::port_a_la_raquette();
+    cmd_moteur::slotazm = compte;
+    std::vector<double> attentes;
+    for (int i = 0; i < 15; ++i) {
+        const auto repos = clock_mono::now();
+        while (ecoule(repos) < 0.13 + 0.013 * i) // not in step with the scan
+            QCoreApplication::processEvents(QEventLoop::AllEvents);
+        premiere_impulsion premiere;
+        plateforme::Out32(plateforme::registre_donnees, 0);
+        cmd_moteur::baselinepaddle = 0;
+        port.observe(&premiere);
+        const auto debut = clock_mono::now();
+        static_cast<void>(port.presente(9));
+        QTimer::singleShot(150,
+                           [&port] { static_cast<void>(port.presente(banc::port_simule::sans_touche)); });
+        while (ecoule(debut) < 0.2)
+            QCoreApplication::processEvents(QEventLoop::AllEvents);
+        port.observe(nullptr);
+        if (premiere.venue)
+            attentes.push_back(std::chrono::duration<double, std::milli>(premiere.quand - debut).count());
+    }
+    if (attentes.empty())
+        std::printf("raquette : aucune impulsion\n");
+    else
+        std::printf("raquette, de la touche à la première impulsion : médiane %.1f ms, au plus %.1f ms "
+                    "(limite %.1f) sur %zu\n",
+                    mediane(attentes), *std::max_element(attentes.begin(), attentes.end()), limite,
+                    attentes.size());
+}
+
 void periode(plateforme::qt::boucle_qt& boucle, banc::port_simule& port, int ms_par_attente) {
     const auto compte = static_cast<int>(ms_par_attente * 1'000'000 / plateforme::ns_par_compte) - 1;
     const double nominale = 2e-9 * static_cast<double>((compte + 1) * plateforme::ns_par_compte);
@@ -149,6 +196,8 @@ int main(int argc, char** argv) {
                                   },
                               .apres_cession = [&etabli] { etabli.cession_finie(); },
                               .donnees = DONNEES}};
+    base::installe_gestionnaire(
+        nullptr); // a failure is printed and ends the run, where nobody could close a box
     s.demarre();
     banc::fenetre_banc fenetre{etabli, horloge};
     fenetre.show();
@@ -162,6 +211,7 @@ int main(int argc, char** argv) {
 
     std::printf("plateforme %s\n", qPrintable(QGuiApplication::platformName()));
     vitesse(s.boucle(), port);
+    latence(port);
     compare_raquette(s.boucle(), port, 0);
     compare_raquette(s.boucle(), port, 1000);
     periode(s.boucle(), port, 1);
