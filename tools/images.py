@@ -11,6 +11,7 @@ What lies where in pictures/:
     boutons/    pictures on buttons         -> ressources/boutons/, 32 px and @2x, @3x
     raquette/   parts of the hand paddle    -> ressources/raquette/, their own size and @2x, @3x
     accueil     splash picture              -> ressources/accueil.png and @2x
+    legende     signs of the sky chart      -> ressources/legende.gif and @2x
     velmoria, velmoria-banc                 -> program icons, one file a size
 
 An SVG's own width and height are its logical size in pixels at 96 to the inch.
@@ -92,10 +93,10 @@ def en_palette(image, couleurs=256):
                                          dither=Image.Dither.NONE)
 
 
-def ecrit_gif(image, chemin):
-    """64 colours: the faces are flat, and only their edges have tones between."""
+def ecrit_gif(image, chemin, couleurs=64):
+    """64 colours do for the faces: they are flat, and only their edges have tones between."""
     chemin.parent.mkdir(parents=True, exist_ok=True)
-    en_palette(image, 64).save(chemin, "GIF", optimize=True)
+    en_palette(image, couleurs).save(chemin, "GIF", optimize=True)
 
 
 def a_echelles(nom, dossier, echelles):
@@ -122,6 +123,10 @@ def produit(racine):
     for echelle, suffixe in ((1, ""), (2, "@2x")):
         image = dessine("accueil", largeur * echelle, hauteur * echelle)
         en_palette(image).save(ressources / f"accueil{suffixe}.png", "PNG", optimize=True)
+    largeur, hauteur = taille_logique(SOURCES / "legende.svg")
+    for echelle, suffixe in ((1, ""), (2, "@2x")):
+        ecrit_gif(dessine("legende", largeur * echelle, hauteur * echelle), ressources / f"legende{suffixe}.gif",
+                  256)
     for nom in ("velmoria", "velmoria-banc"):
         for cote in COTES_PROGRAMME:
             ecrit_png(dessine(nom, cote, cote), ressources / f"{nom}-{cote}.png")
@@ -131,7 +136,8 @@ def produit(racine):
 
 def ecrit_qrc(ressources):
     """Qt finds the pictures under ":/" by their path in ressources/."""
-    noms = sorted(chemin.relative_to(ressources).as_posix() for chemin in ressources.rglob("*.png"))
+    noms = sorted(chemin.relative_to(ressources).as_posix() for chemin in ressources.rglob("*")
+                  if chemin.suffix in (".png", ".gif"))
     lignes = ["<RCC>", '    <qresource prefix="/">']
     lignes += [f'        <file alias="{nom}">{nom}</file>' for nom in noms]
     lignes += ["    </qresource>", "</RCC>", ""]
@@ -141,7 +147,7 @@ def ecrit_qrc(ressources):
 def produits(racine):
     """Relative paths of the products that lie under racine."""
     trouves = [*racine.glob("data/img/*.gif"), racine / "data/img/liste.txt", racine / "ressources/images.qrc",
-               *racine.glob("ressources/**/*.png")]
+               *racine.glob("ressources/**/*.png"), *racine.glob("ressources/*.gif")]
     return {chemin.relative_to(racine) for chemin in trouves if chemin.exists()}
 
 

@@ -11,7 +11,7 @@ namespace frmCercle {
 
 using namespace shell;
 
-inline constinit panneau fiche{"frmCercle", "Visualisation graphique [1:1]", 9240, 9630};
+inline constinit panneau fiche{"frmCercle", "Visualisation graphique [1:1]", 9240, 9570};
 
 inline constinit champ_surface ciel{fiche, "ciel", {0, 0, 9090, 9090}, {.traits = fond}};
 // In the corners that the disc leaves.

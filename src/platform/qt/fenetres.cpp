@@ -76,12 +76,14 @@ void range(fenetre& f, const controle& c, QObject* piece) {
     f.pieces[static_cast<std::size_t>(c.rang())] = piece;
 }
 
-// All keys of a window with a drawing go to that.
-void laisse_le_clavier_au_dessin(const fenetre& f) {
+// A window with a drawing is black to its edges, and all its keys go to the drawing.
+void cede_au_dessin(const fenetre& f, QWidget& contenu) {
     const auto& tous = f.fiche->controles();
     const auto est_surface = [](const controle* c) { return c->espece() == genre::surface; };
     if (std::none_of(tous.begin(), tous.end(), est_surface))
         return;
+    contenu.setObjectName("fond");
+    contenu.setStyleSheet("#fond { background: black }"); // of itself alone: its controls keep the palette
     for (const auto* c : tous)
         if (auto* piece = f.pieces[static_cast<std::size_t>(c->rang())];
             piece && piece->isWidgetType() && !est_surface(c))
@@ -97,7 +99,7 @@ void remplit(fenetre& f, QWidget* contenu) {
         if (c->espece() != genre::entree)
             range(f, *c, fabrique(*c, parent));
     }
-    laisse_le_clavier_au_dessin(f);
+    cede_au_dessin(f, *contenu);
 }
 
 // A tool's text stands under its icon: a bubble that repeats it would only cost a repaint.

@@ -65,8 +65,13 @@ QIcon icone(int indice) {
 QIcon face(const char* nom) { return QIcon{QString{":/boutons/%1.png"}.arg(nom)}; }
 
 QPixmap decor(const char* nom, double densite) {
-    const QString fine{QString{":/%1@2x.png"}.arg(nom)};
-    return QPixmap{densite > 1 && QFile::exists(fine) ? fine : QString{":/%1.png"}.arg(nom)};
+    for (const char* suffixe : {"@2x", ""})
+        for (const char* forme : {"png", "gif"}) {
+            const auto chemin = QString{":/%1%2.%3"}.arg(nom, suffixe, forme);
+            if ((densite > 1 || !*suffixe) && QFile::exists(chemin))
+                return QPixmap{chemin, forme};
+        }
+    return {};
 }
 
 } // namespace plateforme::qt
