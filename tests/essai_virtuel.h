@@ -23,11 +23,12 @@ class vue_muette final : public plateforme::vue {
     void controle_change(const shell::controle&, plateforme::aspect) override { ++changements; }
     shell::entree* ouvre_menu(shell::entree&, const shell::entree*) override { return choix; }
     void message(const std::string& texte) override { messages.push_back(texte); }
-    plateforme::image charge_image(const std::filesystem::path&) override { return {1, 10, 10, 96}; }
+    plateforme::image charge_image(const std::filesystem::path&) override { return photo; }
 
     int changements = 0;
     int elevations = 0;
-    shell::entree* choix = nullptr; ///< what the next popups answer
+    plateforme::image photo{1, 10, 10, 96}; ///< what every picture is
+    shell::entree* choix = nullptr;         ///< what the next popups answer
     std::vector<std::string> messages;
 };
 

@@ -1,6 +1,11 @@
 // Screenshots of every window, for the README, the help pages and whoever changes a panel:
 // velmoria-captures DATA FOLDER. Plays on the bench, with a private copy of the data.
 #include "bench/fenetre_banc.h"
+#include "chart/etat_carte.h"
+#include "chart/frmCercle_champs.h"
+#include "chart/frmImage.h"
+#include "chart/frmImage_champs.h"
+#include "chart/frmLegend_champs.h"
 #include "drive/etat_moteur.h"
 #include "piloting/frmaltazpilot_champs.h"
 #include "piloting/frmequapilot_champs.h"
@@ -9,6 +14,8 @@
 #include "platform/qt/lance.h"
 #include "platform/qt/mesures.h"
 #include "platform/qt/vue_qt.h"
+#include "pointing/etat_pointage.h"
+#include "pointing/frmequapointage_champs.h"
 #include "shell/frminterface_champs.h"
 #include "shell/programme.h"
 
@@ -69,6 +76,31 @@ void chaque_panneau(const photographe& photo) {
     frmequapilot::fiche.decharge();
 }
 
+// The whole sky, then the winter sky from afar and from near.
+void carte(const photographe& photo) {
+    frmequapointage::fiche.montre();
+    frmequapointage::lbEtoiles.double_clic(frmequapointage::lbEtoiles.position());
+    frmequapointage::Picinit.clic();
+    frmequapointage::fiche.decharge();
+    pointing::reticulevisible = true;
+    frmCercle::mnuTous.clic();
+    photo.prend_panneau(frmCercle::fiche, "carte-1");
+    for (const int zoom : {3, 5}) {
+        frmCercle::entree_zoom(zoom).clic();
+        chart::offsetx = -500 * zoom;
+        chart::offsety = -4000 * zoom;
+        frmCercle::ciel.frappe({32});
+        photo.prend_panneau(frmCercle::fiche, "carte-" + std::to_string(zoom));
+    }
+    frmCercle::Label1.clic();
+    photo.prend_panneau(frmLegend::fiche, "carte-legende");
+    frmCercle::mnuRaz.clic();
+    frmImage::montre("M45");
+    photo.prend_panneau(frmImage::fiche, "carte-photographie");
+    for (auto* p : {&frmImage::fiche, &frmLegend::fiche, &frmCercle::fiche})
+        p->decharge();
+}
+
 void en_mouvement(const photographe& photo, QWidget* principale, banc::fenetre_banc& banc) {
     frminterface::barchoix_boutons(2).clic();
     photo.prend(principale, "altazimutal");
@@ -118,6 +150,7 @@ int main(int argc, char** argv) {
     const photographe photo{seance.vue().principale(), dossier};
     photo.prend(seance.vue().principale(), "demarrage");
     chaque_panneau(photo);
+    carte(photo);
     en_mouvement(photo, seance.vue().principale(), banc);
     fs::remove_all(donnees);
     return 0;

@@ -13,6 +13,7 @@ What lies where in pictures/:
     fenetres/   pictures in small windows   -> ressources/fenetres/, their own size and @2x, @3x
     fond        ground of the about window  -> ressources/fenetres/fond.png, 500 x 500
     accueil     splash picture              -> ressources/accueil.png and @2x
+    legende     signs of the sky chart      -> ressources/legende.gif and @2x
     velmoria, velmoria-banc                 -> program icons, one file a size
 
 An SVG's own width and height are its logical size in pixels at 96 to the inch.
@@ -94,10 +95,10 @@ def en_palette(image, couleurs=256):
                                          dither=Image.Dither.NONE)
 
 
-def ecrit_gif(image, chemin):
-    """64 colours: the faces are flat, and only their edges have tones between."""
+def ecrit_gif(image, chemin, couleurs=64):
+    """64 colours do for the faces: they are flat, and only their edges have tones between."""
     chemin.parent.mkdir(parents=True, exist_ok=True)
-    en_palette(image, 64).save(chemin, "GIF", optimize=True)
+    en_palette(image, couleurs).save(chemin, "GIF", optimize=True)
 
 
 def a_echelles(nom, dossier, echelles):
@@ -126,6 +127,10 @@ def produit(racine):
         en_palette(image).save(ressources / f"accueil{suffixe}.png", "PNG", optimize=True)
     fond = en_palette(dessine("fond", *taille_logique(SOURCES / "fond.svg")))
     fond.save(ressources / "fenetres/fond.png", "PNG", optimize=True)
+    largeur, hauteur = taille_logique(SOURCES / "legende.svg")
+    for echelle, suffixe in ((1, ""), (2, "@2x")):
+        ecrit_gif(dessine("legende", largeur * echelle, hauteur * echelle), ressources / f"legende{suffixe}.gif",
+                  256)
     for nom in ("velmoria", "velmoria-banc"):
         for cote in COTES_PROGRAMME:
             ecrit_png(dessine(nom, cote, cote), ressources / f"{nom}-{cote}.png")
@@ -135,7 +140,8 @@ def produit(racine):
 
 def ecrit_qrc(ressources):
     """Qt finds the pictures under ":/" by their path in ressources/."""
-    noms = sorted(chemin.relative_to(ressources).as_posix() for chemin in ressources.rglob("*.png"))
+    noms = sorted(chemin.relative_to(ressources).as_posix() for chemin in ressources.rglob("*")
+                  if chemin.suffix in (".png", ".gif"))
     lignes = ["<RCC>", '    <qresource prefix="/">']
     lignes += [f'        <file alias="{nom}">{nom}</file>' for nom in noms]
     lignes += ["    </qresource>", "</RCC>", ""]
@@ -145,7 +151,7 @@ def ecrit_qrc(ressources):
 def produits(racine):
     """Relative paths of the products that lie under racine."""
     trouves = [*racine.glob("data/img/*.gif"), racine / "data/img/liste.txt", racine / "ressources/images.qrc",
-               *racine.glob("ressources/**/*.png")]
+               *racine.glob("ressources/**/*.png"), *racine.glob("ressources/*.gif")]
     return {chemin.relative_to(racine) for chemin in trouves if chemin.exists()}
 
 

@@ -13,7 +13,8 @@ SOURCES = pathlib.Path(__file__).resolve().parent.parent / "src"
 RANGEE_DU_MAGASIN = {"shell/panneau.h", "shell/panneau.cpp", "shell/controles.h", "shell/controles.cpp",
                      "shell/etat.h", "shell/minuteur.cpp", "shell/registre.h", "shell/registre.cpp",
                      "settings/valeurs.h", "settings/valeurs.cpp",
-                     "platform/plateforme.h", "platform/port.h", "platform/vue.h", "platform/image.h"}
+                     "platform/plateforme.h", "platform/port.h", "platform/vue.h", "platform/image.h",
+                     "platform/toile.h"}
 RANGEES = {"base": 0, "sky": 2, "drive": 2, "settings": 3, "catalogue": 3,
            "chart": 4, "pointing": 4, "tracking": 4, "piloting": 4, "shell": 5, "platform": 6, "bench": 6,
            "principaux": 7}

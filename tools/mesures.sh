@@ -11,3 +11,7 @@ for b in banc_jog banc_horloge banc_demarrage banc_retard; do
     printf '\n== %s\n' "$b"
     tests/fenetres/ecran.sh "$construit/$b"
 done
+for echelle in 1 2; do
+    printf '\n== banc_carte\n'
+    QT_SCALE_FACTOR=$echelle tests/fenetres/ecran.sh "$construit/banc_carte"
+done

@@ -51,18 +51,25 @@ std::string cherche(const std::array<mot, N>& mots, std::string_view cle, const 
 
 } // namespace
 
+lecture::lecture(const std::string& fichier, std::size_t limite)
+    : nom_(fichier), fichier_(fichier_donnees(fichier)), limite_(limite) {}
+
+bool lecture::suivant(astre& a) {
+    if (fichier_.fini())
+        return false;
+    if (lus_ == limite_)
+        base::fatale(base::cause::indice, nom_ + ", objet " + std::to_string(limite_ + 1));
+    ++lus_;
+    a.nom = fichier_.texte_entre_guillemets();
+    a.code = fichier_.texte_entre_guillemets();
+    a.ad = fichier_.nombre();
+    a.dec = fichier_.nombre();
+    return true;
+}
+
 std::vector<astre> lit(const std::string& fichier, std::size_t limite) {
     std::vector<astre> astres;
-    valeurs::lecteur f{fichier_donnees(fichier)};
-    while (!f.fini()) {
-        if (astres.size() == limite)
-            base::fatale(base::cause::indice, fichier + ", objet " + std::to_string(limite + 1));
-        auto& a = astres.emplace_back();
-        a.nom = f.texte_entre_guillemets();
-        a.code = f.texte_entre_guillemets();
-        a.ad = f.nombre();
-        a.dec = f.nombre();
-    }
+    parcourt(fichier, limite, [&astres](std::size_t, astre& a) { astres.push_back(std::move(a)); });
     return astres;
 }
 

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "base/entier.h"
+#include "settings/valeurs.h"
 
 #include <array>
 #include <filesystem>
@@ -46,9 +47,31 @@ struct astre {
     double dec = 0;
 };
 
+/// A catalogue being read, record by record.
+class lecture {
+  public:
+    lecture(const std::string& fichier, std::size_t limite);
+    /// False at the end of the file.
+    bool suivant(astre& a);
+
+  private:
+    std::string nom_;
+    valeurs::lecteur fichier_;
+    std::size_t lus_ = 0;
+    std::size_t limite_;
+};
+
 /// The records of a star or object catalogue, in order. Fatal: a missing file, a record cut short
 /// (`fin_de_fichier`), a record beyond `limite` (`indice`), with the file and the record's number.
 std::vector<astre> lit(const std::string& fichier, std::size_t limite);
+
+/// The same, one by one: calls `f(place, record)`, which may take the texts away.
+template <class F> void parcourt(const std::string& fichier, std::size_t limite, F&& f) {
+    lecture l{fichier, limite};
+    astre a;
+    for (std::size_t i = 0; l.suivant(a); ++i)
+        f(i, a);
+}
 
 /// One catalogue in a panel's or the chart's memory: four parallel arrays and a count. A panel takes the
 /// positions as 32-bit integers (rounded with ties to the even number), the chart as real numbers.

@@ -16,7 +16,7 @@ class entree;
 namespace plateforme {
 
 /// What changed of a control.
-enum class aspect { texte, lignes, position, valeur, coche, visible, actif, place, image, enfonce };
+enum class aspect { texte, lignes, position, valeur, coche, visible, actif, place, image, enfonce, dessin };
 
 class vue {
   public:

@@ -1,15 +1,20 @@
 #include "pointing/carte.h"
 
+#include "chart/etat_carte.h"
+#include "chart/frmCercle_champs.h"
+#include "chart/redessine.h"
 #include "pointing/etat_pointage.h"
 
 namespace pointing {
 
-// Five things in this order: the caption of the chart's command ("Initialisation" or "Pointage"), its mode, a
-// redraw if the chart has a view already, the panel it serves, its showing. The redraw thus still sees the
-// panel before.
+// In this order: a chart with a view is redrawn before it knows for which panel.
 void ouvre_carte(operation o, bool altaz) {
+    frmCercle::mnuPoint.legende(o == operation::pointage ? "Pointage" : "Initialisation");
     modepointage = o == operation::pointage;
+    if (chart::cercleinit)
+        chart::redessine();
     panneaualtaz = altaz;
+    frmCercle::fiche.montre();
 }
 
 } // namespace pointing

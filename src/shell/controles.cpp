@@ -318,4 +318,8 @@ void champ_surface::frappe(touche t) {
         repond(r().touche, t);
 }
 
+plateforme::toile& champ_surface::toile() { return acces().toile; }
+void champ_surface::peint() { dit(aspect::dessin); }
+const plateforme::toile& champ_surface::regarde_toile() const { return e().toile; }
+
 } // namespace shell

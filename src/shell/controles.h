@@ -3,6 +3,7 @@
 
 #include "base/entier.h"
 #include "base/nombre.h"
+#include "platform/toile.h"
 #include "shell/panneau.h"
 
 #include <array>
@@ -275,7 +276,7 @@ class champ_progression : public controle {
     void valeur(double x);
 };
 
-/// A drawing surface with mouse and keys; what it shows is drawn through the view.
+/// A drawing surface with mouse and keys. It keeps what is drawn on it; the view paints it when it is told.
 class champ_surface : public controle {
   public:
     constexpr champ_surface(panneau& p, const char* nom, boite place, dessin d = {}, int indice = -1)
@@ -284,6 +285,11 @@ class champ_surface : public controle {
     void a_la_touche(std::function<void(touche)> f);
     void presse(souris s);
     void frappe(touche t);
+    /// What stands on it, to draw on. The reference holds until the panel is unloaded.
+    plateforme::toile& toile();
+    /// Has the view paint what was drawn.
+    void peint();
+    const plateforme::toile& regarde_toile() const;
 };
 
 /// A menu entry, of the menu bar or of a popup. One with children may have a command of its own.

@@ -19,6 +19,7 @@ struct controle::etat {
     int intervalle = 0;
     boite place;
     plateforme::image image;
+    plateforme::toile toile;
 };
 
 struct controle::reponses {

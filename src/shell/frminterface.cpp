@@ -1,6 +1,8 @@
 #include "shell/frminterface.h"
 
 #include "base/nombre.h"
+#include "chart/frmCercle_champs.h"
+#include "chart/frmLegend_champs.h"
 #include "drive/cmd_moteur.h"
 #include "drive/raquette.h"
 #include "piloting/frmaltazpilot_champs.h"
@@ -90,6 +92,8 @@ void decharge_panneaux() {
     frmequapilot::fiche.decharge();
     frmequapointage::fiche.decharge();
     frmequaconfig::fiche.decharge();
+    frmCercle::fiche.decharge();
+    frmLegend::fiche.decharge();
 }
 
 void mode_raquette() {

@@ -1,5 +1,12 @@
 #include "shell/programme.h"
 
+#include "chart/etat_carte.h"
+#include "chart/frmCercle.h"
+#include "chart/frmCercle_champs.h"
+#include "chart/frmImage.h"
+#include "chart/frmImage_champs.h"
+#include "chart/frmLegend.h"
+#include "chart/frmLegend_champs.h"
 #include "drive/etat_moteur.h"
 #include "piloting/frmaltazpilot.h"
 #include "piloting/frmaltazpilot_champs.h"
@@ -63,6 +70,9 @@ std::vector<shell::panneau*> panneaux() {
     Frmnotes::fiche.construit(Frmnotes::controles());
     frmaide::fiche.construit(frmaide::controles());
     frmcopyright::fiche.construit(frmcopyright::controles());
+    frmCercle::fiche.construit(frmCercle::controles());
+    frmImage::fiche.construit(frmImage::controles());
+    frmLegend::fiche.construit(frmLegend::controles());
 
     frminterface::branche();
     frmaltazpilot::branche();
@@ -78,6 +88,9 @@ std::vector<shell::panneau*> panneaux() {
     Frmnotes::branche();
     frmaide::branche();
     frmcopyright::branche();
+    frmCercle::branche();
+    frmImage::branche();
+    frmLegend::branche();
 
     return {
         &frminterface::fiche,
@@ -91,6 +104,9 @@ std::vector<shell::panneau*> panneaux() {
         &frmaltazpointage::fiche,
         &frmequapointage::fiche,
         &frmDepl::fiche,
+        &frmCercle::fiche,
+        &frmImage::fiche,
+        &frmLegend::fiche,
         &frmaltazsuivi::fiche,
         &Frmnotes::fiche,
         &frmaide::fiche,
@@ -163,6 +179,17 @@ std::vector<shell::variable> variables() {
         VARIABLE(pointing, distalt),
         VARIABLE(pointing, invpointad),
         VARIABLE(pointing, invpointdec),
+        VARIABLE(chart, cercleinit),
+        VARIABLE(chart, zoomcercle),
+        VARIABLE(chart, rayoncercle),
+        VARIABLE(chart, rotcercle),
+        VARIABLE(chart, offsetx),
+        VARIABLE(chart, offsety),
+        VARIABLE(chart, reperevisible),
+        VARIABLE(chart, constvisible),
+        VARIABLE(chart, filtrecercle),
+        VARIABLE(chart, cataloguecercle),
+        VARIABLE(chart, lettresgrecques),
         VARIABLE(tracking, suiviouvert),
         VARIABLE(tracking, objetchoisi),
         VARIABLE(tracking, incrementms),

@@ -88,10 +88,10 @@ TEST(catalogue, noms) {
 
 TEST(catalogue, photographies) {
     const machine_essai m;
-    m.fichier("Objets/M 31.jpg", "");
-    std::filesystem::create_directory(m.donnees / "Objets/M1.jpg");
-    EXPECT_TRUE(catalogue::a_photographie("M 31")) << "an empty file counts";
-    for (const char* nom : {"M31", "m 31", "M1", "", "M 31.jpg"})
+    m.fichier("Objets/X 31.jpg", "");
+    std::filesystem::create_directory(m.donnees / "Objets/X1.jpg");
+    EXPECT_TRUE(catalogue::a_photographie("X 31")) << "an empty file counts";
+    for (const char* nom : {"X31", "x 31", "X1", "", "X 31.jpg"})
         EXPECT_FALSE(catalogue::a_photographie(nom)) << nom;
 }
 

@@ -3,6 +3,7 @@
 #include "platform/qt/images.h"
 #include "platform/qt/mesures.h"
 #include "platform/qt/pieces.h"
+#include "platform/qt/surface.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -211,6 +212,10 @@ void accorde(const controle& c, QObject* piece, aspect a) {
         if (c.espece() == genre::bouton)
             en<bouton>(piece)->montre_enfonce(c.regarde_enfonce());
         return;
+    case aspect::dessin:
+        if (c.espece() == genre::surface)
+            en<surface>(piece)->montre();
+        return;
     }
 }
 
@@ -225,7 +230,7 @@ void accorde_tout(const controle& c, QObject* piece) {
         accorde(c, piece, aspect::lignes);
     }
     for (const auto a : {aspect::texte, aspect::valeur, aspect::coche, aspect::place, aspect::image,
-                         aspect::enfonce, aspect::actif, aspect::visible})
+                         aspect::enfonce, aspect::dessin, aspect::actif, aspect::visible})
         accorde(c, piece, a);
 }
 

@@ -4,6 +4,7 @@
 #include "platform/qt/images.h"
 #include "platform/qt/mesures.h"
 #include "platform/qt/pieces.h"
+#include "platform/qt/surface.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -17,6 +17,7 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <QWindow>
+#include <algorithm>
 #include <utility>
 
 namespace plateforme::qt {
@@ -75,6 +76,20 @@ void range(fenetre& f, const controle& c, QObject* piece) {
     f.pieces[static_cast<std::size_t>(c.rang())] = piece;
 }
 
+// A window with a drawing is black to its edges, and all its keys go to the drawing.
+void cede_au_dessin(const fenetre& f, QWidget& contenu) {
+    const auto& tous = f.fiche->controles();
+    const auto est_surface = [](const controle* c) { return c->espece() == genre::surface; };
+    if (std::none_of(tous.begin(), tous.end(), est_surface))
+        return;
+    contenu.setObjectName("fond");
+    contenu.setStyleSheet("#fond { background: black }"); // of itself alone: its controls keep the palette
+    for (const auto* c : tous)
+        if (auto* piece = f.pieces[static_cast<std::size_t>(c->rang())];
+            piece && piece->isWidgetType() && !est_surface(c))
+            static_cast<QWidget*>(piece)->setFocusPolicy(Qt::NoFocus);
+}
+
 // A control's frame was declared before it, so its widget is there already.
 void remplit(fenetre& f, QWidget* contenu) {
     for (auto* c : f.fiche->controles()) {
@@ -84,6 +99,7 @@ void remplit(fenetre& f, QWidget* contenu) {
         if (c->espece() != genre::entree)
             range(f, *c, fabrique(*c, parent));
     }
+    cede_au_dessin(f, *contenu);
 }
 
 // A tool's text stands under its icon: a bubble that repeats it would only cost a repaint.

@@ -83,8 +83,13 @@ QIcon icone(int indice) {
 QIcon face(const char* nom) { return toutes_densites(QString{":/boutons/%1"}.arg(nom)); }
 
 QPixmap decor(const char* nom, double densite) {
-    const QString fine{QString{":/%1@2x.png"}.arg(nom)};
-    return png(densite > 1 && QFile::exists(fine) ? fine : QString{":/%1.png"}.arg(nom));
+    for (const char* suffixe : {"@2x", ""})
+        for (const char* forme : {"png", "gif"}) {
+            const auto chemin = QString{":/%1%2.%3"}.arg(nom, suffixe, forme);
+            if ((densite > 1 || !*suffixe) && QFile::exists(chemin))
+                return QPixmap::fromImage(lit(chemin, forme));
+        }
+    return {};
 }
 
 QIcon icone_programme(const char* nom) { return png(QString{":/%1-64.png"}.arg(nom)); }

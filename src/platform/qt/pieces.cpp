@@ -172,58 +172,6 @@ void tableau_image::mouseReleaseEvent(QMouseEvent* e) {
         champ_.relache();
 }
 
-// ---- drawing surface
-
-surface::surface(shell::champ_surface& c, QWidget* parent) : QWidget(parent), champ_(c) {
-    setAutoFillBackground(true);
-    QPalette p = palette();
-    p.setColor(QPalette::Window, Qt::black);
-    setPalette(p);
-    setFocusPolicy(Qt::StrongFocus);
-}
-
-void surface::mousePressEvent(QMouseEvent* e) {
-    champ_.presse({static_cast<int>(e->button()),
-                   static_cast<float>(e->position().x() * shell::twips_par_pixel),
-                   static_cast<float>(e->position().y() * shell::twips_par_pixel)});
-}
-
-namespace {
-
-int code_touche(int cle) {
-    switch (cle) {
-    case Qt::Key_Left:
-        return 37;
-    case Qt::Key_Up:
-        return 38;
-    case Qt::Key_Right:
-        return 39;
-    case Qt::Key_Down:
-        return 40;
-    case Qt::Key_Escape:
-        return 27;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        return 13;
-    case Qt::Key_PageUp:
-        return 33;
-    case Qt::Key_PageDown:
-        return 34;
-    default:
-        return cle < 128 ? cle : 0;
-    }
-}
-
-} // namespace
-
-void surface::keyPressEvent(QKeyEvent* e) {
-    if (const int code = code_touche(e->key()))
-        champ_.frappe(
-            {code, e->modifiers().testFlag(Qt::ShiftModifier), e->modifiers().testFlag(Qt::ControlModifier)});
-    if (e->key() == Qt::Key_Escape)
-        e->ignore();
-}
-
 // ---- up-down
 
 hautbas::hautbas(shell::champ_hautbas& c, QWidget* parent) : QWidget(parent) {

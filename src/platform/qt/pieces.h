@@ -74,19 +74,6 @@ class tableau_image final : public QWidget {
     QPixmap reduite_; // to the screen's pixels of the place it has
 };
 
-/// A black ground that takes the mouse and the keys.
-class surface final : public QWidget {
-  public:
-    surface(shell::champ_surface& c, QWidget* parent);
-
-  protected:
-    void mousePressEvent(QMouseEvent* e) override;
-    void keyPressEvent(QKeyEvent* e) override;
-
-  private:
-    shell::champ_surface& champ_;
-};
-
 /// Two arrow buttons, one above the other.
 class hautbas final : public QWidget {
   public:

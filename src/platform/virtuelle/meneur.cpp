@@ -71,6 +71,20 @@ template <class T> T& comme(const std::string& nom) {
     return *c;
 }
 
+shell::champ_surface& surface_de(const std::string& panneau) {
+    if (const auto* p = programme::registre().trouve_panneau(panneau))
+        for (auto* c : p->controles())
+            if (c->espece() == shell::genre::surface)
+                return static_cast<shell::champ_surface&>(*c);
+    throw ligne_incomprise{"aucun panneau de ce nom n'a de dessin : \"" + panneau + "\""};
+}
+
+float coordonnee(const std::string& s) {
+    if (!base::est_nombre(s))
+        throw ligne_incomprise{"un nombre était attendu : \"" + s + "\""};
+    return static_cast<float>(base::nombre(s));
+}
+
 } // namespace
 
 meneur::meneur(const partie& p) : partie_(p), vue_(p.sortie, [this] { return choix_de_menu(); }) {
@@ -156,7 +170,8 @@ void meneur::execute(const std::string& commande) {
     if (mot == "quitte")
         throw fin_du_scenario{};
     try {
-        if (!prepare(mot, reste) && !agit(mot, reste) && !agit_sur_liste(mot, reste))
+        if (!prepare(mot, reste) && !agit(mot, reste) && !agit_sur_liste(mot, reste) &&
+            !agit_sur_surface(mot, reste))
             throw ligne_incomprise{"commande inconnue : \"" + mot + "\""};
     } catch (const entree_inconnue& e) {
         throw ligne_incomprise{"le menu n'a pas cette entrée : \"" + e.nom + "\""};
@@ -243,6 +258,32 @@ bool meneur::agit_sur_liste(std::string_view mot, const std::string& reste) {
     return true;
 }
 
+// `souris PANNEAU gauche|droit X Y` and `touche PANNEAU CODE [maj] [ctrl]`.
+bool meneur::agit_sur_surface(std::string_view mot, const std::string& reste) {
+    if (mot != "souris" && mot != "touche")
+        return false;
+    const auto [nom, suite] = premier_mot(reste);
+    auto [premier, options] = premier_mot(suite);
+    auto& surface = surface_de(nom);
+    if (mot == "souris") {
+        if (premier != "gauche" && premier != "droit")
+            throw ligne_incomprise{"gauche ou droit était attendu : \"" + premier + "\""};
+        const auto [x, y] = premier_mot(options);
+        surface.presse({premier == "droit" ? 2 : 1, coordonnee(x), coordonnee(y)});
+        return true;
+    }
+    shell::touche t{entier(premier)};
+    while (!options.empty()) {
+        const auto [option, apres] = premier_mot(options);
+        if (option != "maj" && option != "ctrl")
+            throw ligne_incomprise{"maj ou ctrl était attendu : \"" + option + "\""};
+        (option == "maj" ? t.maj : t.ctrl) = true;
+        options = std::string{apres};
+    }
+    surface.frappe(t);
+    return true;
+}
+
 void meneur::planifie(const std::string& reste) {
     const auto [quand, commande] = premier_mot(reste);
     if (commande.empty())
@@ -305,6 +346,11 @@ std::string meneur::reponse(const std::string& quoi) {
 }
 
 void meneur::montre(const std::string& quoi) {
+    if (quoi == "dessin") {
+        for (const auto& p : vue_.dessin())
+            partie_.sortie << "dessin " << texte_de(p) << '\n';
+        return;
+    }
     const auto r = reponse(quoi); // before anything is printed: asking may load a panel
     partie_.sortie << premier_mot(quoi).first << r << '\n';
 }

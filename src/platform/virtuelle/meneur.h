@@ -61,6 +61,7 @@ class meneur {
     bool prepare(std::string_view mot, const std::string& reste);
     bool agit(std::string_view mot, const std::string& reste);
     bool agit_sur_liste(std::string_view mot, const std::string& reste);
+    bool agit_sur_surface(std::string_view mot, const std::string& reste);
     void montre(const std::string& quoi);
     std::string reponse(const std::string& quoi);
     void attend(const std::string& reste);

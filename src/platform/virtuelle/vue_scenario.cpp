@@ -34,6 +34,36 @@ std::string sur_une_ligne(const std::string& texte) {
     return s;
 }
 
+std::string texte_de(const primitive& p) {
+    using forme = primitive::forme;
+    const auto nombres = [](std::initializer_list<double> liste) {
+        std::string s;
+        for (const double x : liste)
+            s += " " + base::texte(x);
+        return s;
+    };
+    const auto teinte = [](couleur c) {
+        return " " + std::to_string(c.r) + "," + std::to_string(c.v) + "," + std::to_string(c.b);
+    };
+    switch (p.quoi) {
+    case forme::efface:
+        return "efface";
+    case forme::cercle:
+        return "cercle" + nombres({p.x, p.y, p.rayon}) + teinte(p.contour) +
+               (p.plein ? teinte(p.fond) : " -");
+    case forme::ligne:
+        return "ligne" + nombres({p.x, p.y, p.x2, p.y2}) + teinte(p.contour);
+    case forme::texte:
+        return "texte" + nombres({p.x, p.y}) + " " + p.texte;
+    }
+    return {};
+}
+
+void vue_scenario::controle_change(const shell::controle& c, aspect a) {
+    if (a == aspect::dessin)
+        dessin_ = static_cast<const shell::champ_surface&>(c).regarde_toile().primitives();
+}
+
 vue_scenario::vue_scenario(std::ostream& sortie, std::function<std::string()> choix)
     : sortie_(sortie), choix_(std::move(choix)) {}
 

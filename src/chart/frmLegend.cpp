@@ -1,0 +1,15 @@
+#include "chart/frmLegend.h"
+
+#include "chart/frmCercle_champs.h"
+#include "chart/frmLegend_champs.h"
+
+namespace frmLegend {
+
+void branche() {
+    bFin.au_clic([] {
+        fiche.decharge();
+        frmCercle::Label1.legende("8"); // so that its next click opens the legend again
+    });
+}
+
+} // namespace frmLegend

@@ -1,0 +1,268 @@
+// The sky chart on screen: opened from the panel's drawn buttons, driven by the right button and the keys.
+#include "fenetres.h"
+
+#include "chart/astres_carte.h"
+#include "chart/etat_carte.h"
+#include "chart/frmCercle_champs.h"
+#include "chart/frmImage_champs.h"
+#include "chart/frmLegend_champs.h"
+#include "chart/redessine.h"
+#include "pointing/etat_pointage.h"
+
+#include <QMenu>
+
+namespace {
+
+class carte : public essais::fenetres {
+  protected:
+    using essais::fenetres::fenetres;
+
+    void SetUp() override {
+        essais::fenetres::SetUp();
+        clique("frminterface", "barchoix(1)");
+        clique("frminterface", "barequa(4)");
+        clique("frmequapointage", "Picinit");
+        ciel = piece("frmCercle", "ciel");
+        ASSERT_TRUE(ciel->isVisible());
+    }
+
+    // Presses the right button at a place of the chart and has the popup answered.
+    void droit(double x, double y, std::function<void(QMenu&)> f) {
+        bool ouvert = false;
+        QTimer::singleShot(50, [&] {
+            auto* m = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            ASSERT_TRUE(m);
+            ouvert = true;
+            f(*m);
+            m->close();
+        });
+        QTest::mousePress(ciel, Qt::RightButton, {},
+                          QPoint{static_cast<int>(x / shell::twips_par_pixel),
+                                 static_cast<int>(y / shell::twips_par_pixel)});
+        EXPECT_TRUE(ouvert);
+    }
+    static QAction* entree(QMenu& m, const char* nom) { return m.findChild<QAction*>(nom); }
+    static void choisit(QMenu& m, const char* nom) {
+        auto* action = entree(m, nom);
+        auto* dans = qobject_cast<QMenu*>(action->parent());
+        QTest::mouseClick(dans, Qt::LeftButton, {}, dans->actionGeometry(action).center());
+    }
+    static const chart::astre_carte& objet(const std::string& nom) {
+        for (const auto& o : chart::astres.objets)
+            if (o.nom == nom)
+                return o;
+        ADD_FAILURE() << nom;
+        return chart::astres.objets[0];
+    }
+
+    QImage vue() { return ciel->grab().toImage(); }
+    QColor pixel(double x, double y) {
+        const auto d = ciel->devicePixelRatioF() / shell::twips_par_pixel;
+        return vue().pixelColor(static_cast<int>(x * d), static_cast<int>(y * d));
+    }
+
+    QWidget* ciel = nullptr;
+};
+
+TEST_F(carte, opened_with_the_keyboard_on_the_sky) {
+    EXPECT_EQ(piece("frmCercle")->windowTitle(), "Visualisation graphique [ 1:1]");
+    EXPECT_TRUE(ciel->hasFocus());
+    EXPECT_EQ(pointing::modepointage, false);
+    EXPECT_EQ(pixel(60, 60), QColor(Qt::black));
+    EXPECT_EQ(pixel(objet("M31").x, objet("M31").y), QColor(0, 255, 0));
+    EXPECT_EQ(pixel(objet("M45").x, objet("M45").y), QColor(Qt::black)) << "the middle of a ring";
+    EXPECT_EQ(pixel(objet("M92").x, objet("M92").y), QColor(250, 140, 0));
+}
+
+TEST_F(carte, a_right_click_on_a_star) {
+    droit(chart::astres.etoiles[2].x, chart::astres.etoiles[2].y, [](QMenu& m) {
+        EXPECT_EQ(m.objectName(), "mnuName");
+        EXPECT_EQ(entree(m, "mnuNom")->text(), "ALPHA [Lyre].");
+        EXPECT_EQ(m.defaultAction(), entree(m, "mnuNom"));
+        EXPECT_FALSE(entree(m, "mnuvoir")->isEnabled());
+        EXPECT_EQ(entree(m, "mnuPoint")->text(), "Initialisation");
+        choisit(m, "mnuPoint");
+    });
+    EXPECT_FALSE(piece("frmCercle")->isVisible());
+    EXPECT_EQ(pointing::reticulead, 11169); // Vega in the delivered file
+    EXPECT_EQ(pointing::reticuledec, 23270);
+    EXPECT_TRUE(port.ecritures.empty());
+    clique("frmequapointage", "picpointage");
+    const auto p = chart::projette(11169, 23270);
+    EXPECT_EQ(pixel(p.x - 100, p.y), QColor(255, 0, 0)) << "the reticle";
+}
+
+TEST_F(carte, a_right_click_on_nothing_and_a_submenu) {
+    droit(300, 300, [](QMenu& m) {
+        EXPECT_EQ(entree(m, "mnuNom")->text(), "aucun objet");
+        EXPECT_EQ(m.defaultAction(), nullptr);
+        EXPECT_FALSE(entree(m, "mnuPoint")->isEnabled());
+        EXPECT_TRUE(entree(m, "mnuaucun")->isChecked());
+        auto* objets = entree(m, "mnuObjets");
+        QTest::mouseClick(&m, Qt::LeftButton, {}, m.actionGeometry(objets).center());
+        ASSERT_TRUE(QTest::qWaitFor([objets] { return objets->menu()->isVisible(); }));
+        choisit(m, "mnuGalaxie");
+    });
+    EXPECT_EQ(chart::filtrecercle, 2);
+    EXPECT_EQ(pixel(objet("M92").x, objet("M92").y), QColor(Qt::black));
+    droit(objet("M92").x, objet("M92").y, [](QMenu& m) {
+        EXPECT_EQ(entree(m, "mnuNom")->text(), "M92") << "picked though it is not drawn";
+        EXPECT_TRUE(entree(m, "mnuPoint")->isEnabled());
+        EXPECT_TRUE(entree(m, "mnuGalaxie")->isChecked());
+        EXPECT_FALSE(entree(m, "mnuaucun")->isChecked());
+    });
+}
+
+TEST_F(carte, a_photograph_and_another_in_its_place) {
+    for (const auto* nom : {"M34", "M33"})
+        droit(objet(nom).x, objet(nom).y, [](QMenu& m) {
+            EXPECT_TRUE(entree(m, "mnuvoir")->isEnabled());
+            choisit(m, "mnuvoir");
+        });
+    auto* w = piece("frmImage");
+    EXPECT_EQ(w->windowTitle(), "M33");
+    EXPECT_TRUE(piece("frmCercle")->isVisible());
+    EXPECT_EQ(w->size(), QSize(733, 593)); // 720 x 560 pixels, 200 and 500 twips more
+    const auto photo = piece("frmImage", "oPicture")->grab().toImage();
+    const QImage fichier{DONNEES "/Objets/M33.jpg"};
+    ASSERT_EQ(photo.size(), fichier.size());
+    EXPECT_EQ(photo.pixelColor(300, 200), fichier.pixelColor(300, 200)) << "pixel for pixel";
+    w->close();
+    EXPECT_FALSE(frmImage::fiche.est_charge());
+}
+
+TEST_F(carte, keys) {
+    const auto frappe = [this](Qt::Key cle, Qt::KeyboardModifiers avec = {}) {
+        QTest::keyClick(ciel, cle, avec);
+    };
+    const auto avant = vue();
+    frappe(Qt::Key_Left);
+    EXPECT_EQ(vue(), avant);
+    frappe(Qt::Key_Left, Qt::ShiftModifier);
+    EXPECT_EQ(chart::offsetx, 500);
+    frappe(Qt::Key_Right, Qt::ControlModifier);
+    EXPECT_EQ(chart::offsetx, 250);
+    frappe(Qt::Key_Right, Qt::ShiftModifier | Qt::ControlModifier);
+    EXPECT_EQ(chart::offsetx, 0);
+    EXPECT_EQ(vue(), avant);
+    frappe(Qt::Key_Up, Qt::ShiftModifier);
+    frappe(Qt::Key_Down, Qt::ControlModifier);
+    EXPECT_EQ(chart::offsety, 250);
+    EXPECT_NE(vue(), avant);
+    for (int i = 0; i < 4; ++i)
+        frappe(Qt::Key_PageUp);
+    EXPECT_EQ(piece("frmCercle")->windowTitle(), "Visualisation graphique [ 5:1]");
+    frappe(Qt::Key_PageDown);
+    EXPECT_EQ(chart::zoomcercle, 4);
+    frappe(Qt::Key_End);
+    frappe(Qt::Key_End);
+    frappe(Qt::Key_Delete);
+    EXPECT_EQ(chart::rotcercle, -10);
+    frappe(Qt::Key_Home);
+    EXPECT_EQ(vue(), avant);
+    // Signs whose characters are the arrows' and others' codes.
+    for (const auto cle : {Qt::Key_Apostrophe, Qt::Key_Percent, Qt::Key_Ampersand, Qt::Key_ParenLeft,
+                           Qt::Key_Exclam, Qt::Key_QuoteDbl, Qt::Key_NumberSign, Qt::Key_Period})
+        frappe(cle, Qt::ShiftModifier);
+    EXPECT_EQ(vue(), avant);
+}
+
+// Tab, a modifier alone, a letter: each is drawn, and the keyboard stays where it is.
+TEST_F(carte, every_key_is_painted) {
+    class compteur final : public QObject {
+      public:
+        int peintures = 0;
+        bool eventFilter(QObject*, QEvent* e) override {
+            peintures += e->type() == QEvent::Paint;
+            return false;
+        }
+    } c;
+    QApplication::processEvents();
+    ciel->installEventFilter(&c);
+    constexpr Qt::Key cles[] = {Qt::Key_Tab,    Qt::Key_Shift, Qt::Key_X,
+                                Qt::Key_Escape, Qt::Key_Left,  Qt::Key_F5};
+    for (int i = 0; i < 120; ++i) {
+        chart::astres.etoiles[0].nom = "effacée";
+        QKeyEvent e{QEvent::KeyPress, cles[i % std::ssize(cles)], Qt::NoModifier};
+        QApplication::sendEvent(ciel, &e);
+        EXPECT_EQ(c.peintures, i + 1);
+        EXPECT_EQ(chart::astres.etoiles[0].nom, "ALPHA") << "read anew";
+    }
+    ciel->removeEventFilter(&c);
+    EXPECT_TRUE(ciel->hasFocus());
+}
+
+TEST_F(carte, the_legend_and_the_end) {
+    auto* label = piece("frmCercle", "Label1");
+    QTest::mouseClick(label, Qt::LeftButton);
+    auto* w = piece("frmLegend");
+    EXPECT_TRUE(w->isVisible());
+    const auto signes = piece("frmLegend", "signes")->grab().toImage();
+    EXPECT_EQ(signes.size(), QSize(278, 188));
+    EXPECT_EQ(signes.pixelColor(17, 57), QColor(0, 255, 0)) << "a galaxy's sign";
+    clique("frmLegend", "bFin");
+    EXPECT_FALSE(w->isVisible());
+    EXPECT_EQ(frmCercle::Label1.legende(), "8");
+    QTest::keyClick(ciel, Qt::Key_PageUp);
+    EXPECT_EQ(chart::zoomcercle, 2) << "a click on the label leaves the keyboard to the sky";
+    clique("frmCercle", "bEsc");
+    EXPECT_FALSE(frmCercle::fiche.est_charge());
+}
+
+// What code draws while the window is covered or hidden is there when it is seen again.
+TEST_F(carte, drawn_while_hidden) {
+    const auto avant = vue();
+    frmCercle::fiche.cache();
+    frmCercle::mnuZTrois.clic();
+    frmCercle::fiche.montre();
+    EXPECT_NE(vue(), avant);
+    QTest::keyClick(ciel, Qt::Key_Home);
+    EXPECT_EQ(vue(), avant);
+}
+
+class carte_nette : public carte, public testing::WithParamInterface<const char*> {
+  protected:
+    carte_nette() : carte(GetParam()) {}
+};
+
+// The grid's axes are whole pixels, as wide as the scale makes them, and nothing is painted beside them; a
+// pan by parts of a pixel changes nothing of that.
+TEST_P(carte_nette, axes) {
+    const int large = static_cast<int>(std::round(std::atof(GetParam())));
+    for (int pan = 0; pan < 3; ++pan) {
+        const auto i = vue();
+        int gris = 0;
+        const int y = i.height() - i.height() / 40; // below all stars
+        const int milieu = static_cast<int>((4500 - 250 * pan) / 15 * ciel->devicePixelRatioF());
+        for (int x = milieu - 6; x <= milieu + 6; ++x) {
+            const auto c = i.pixelColor(x, y);
+            EXPECT_TRUE(c == QColor(160, 160, 160) || c == QColor(Qt::black))
+                << x << " " << c.name().toStdString();
+            gris += c == QColor(160, 160, 160);
+        }
+        EXPECT_EQ(gris, large);
+        QTest::keyClick(ciel, Qt::Key_Right, Qt::ControlModifier);
+    }
+}
+
+// Wherever the window stands, also between the screen's pixels, the image is copied pixel for pixel.
+TEST_P(carte_nette, on_screen) {
+    const QRect coupe{60, 120, 250, 250};
+    const auto seule = vue().copy(coupe);
+    for (const auto& place : {QPoint{0, 0}, {7, 3}, {8, 5}}) {
+        piece("frmCercle")->move(place);
+        QApplication::processEvents();
+        const auto coin = QPointF{ciel->mapTo(principale(), QPoint{})} * ciel->devicePixelRatioF();
+        const auto ecran = principale()->grab().toImage();
+        const QPoint debut{static_cast<int>(std::round(coin.x())), static_cast<int>(std::round(coin.y()))};
+        EXPECT_EQ(ecran.copy(coupe.translated(debut)).convertToFormat(QImage::Format_RGB32),
+                  seule.convertToFormat(QImage::Format_RGB32))
+            << place.x();
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(echelles, carte_nette, testing::Values("1", "1.5", "2"), [](const auto& essai) {
+    return std::string{"s"} + std::to_string(static_cast<int>(std::atof(essai.param) * 100));
+});
+
+} // namespace
