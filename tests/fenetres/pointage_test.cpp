@@ -54,7 +54,7 @@ TEST_F(pointage, the_equatorial_mount_goes_to_an_object_after_an_alignment_star)
 
     // Escape stops too: the focus is on the stop. It works from the first pulse.
     const int avant = port.impulsions;
-    port.apres(avant + 1, [this] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape); });
+    port.apres(avant + 1, [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape); });
     double_clique(objets("frmequapointage"), 60);
     EXPECT_LE(port.impulsions, avant + 3);
     EXPECT_FALSE(piece("frmDepl")->isVisible());
@@ -94,7 +94,7 @@ TEST_F(pointage, a_right_click_opens_the_filter_and_a_filter_leaves_its_kind) {
     clique("frminterface", "baraltaz(4)");
     auto* l = objets("frmaltazpointage");
     EXPECT_EQ(l->count(), 110);
-    QTimer::singleShot(100, [this] {
+    QTimer::singleShot(100, [] {
         auto* m = menu_ouvert();
         ASSERT_TRUE(m);
         EXPECT_EQ(m->actions().front()->text(), "TYPE:[AMAS GLOBULAIRE]"); // M2
