@@ -6,7 +6,7 @@ set -euo pipefail
 paquets=(g++ cmake ninja-build ccache qt6-base-dev qt6-base-dev-tools libgl-dev fonts-dejavu-core)
 case "${1:-construire}" in
 construire) ;;
-verifier) paquets+=(clang libclang-rt-14-dev libgtest-dev xvfb xauth python3 python3-erfa python3-astropy) ;;
+verifier) paquets+=(clang libclang-rt-14-dev libgtest-dev xvfb xauth python3 python3-erfa python3-astropy python3-pil) ;;
 mesurer) paquets+=(libbenchmark-dev xvfb xauth) ;;
 captures) paquets+=(xvfb xauth) ;;
 *)

@@ -13,7 +13,7 @@ using namespace shell;
 
 inline constinit panneau fiche{"frmCercle", "Visualisation graphique [1:1]", 9240, 9570};
 
-inline constinit champ_surface ciel{fiche, "ciel", {0, 0, 9090, 9090}, {.traits = fond}};
+inline constinit champ_surface ciel{fiche, "ciel", {0, 0, 9150, 9150}, {.traits = fond}};
 // In the corners that the disc leaves.
 inline constinit champ_bouton bEsc{fiche, "bEsc", {8130, 90, 870, 420}, {.legende = "Fin"}};
 inline constinit champ_etiquette Label1{

@@ -48,34 +48,36 @@ void peintre::peint(QImage& image, const toile& t, double densite) {
     jour j{QPainter{&image}, QRectF{image.rect()}, densite / shell::twips_par_pixel,
            std::max(1.0, std::round(densite))};
     j.p.setRenderHint(QPainter::Antialiasing);
-    QRgb plume = 1; // no colour of a pen
     for (const auto& p : t.primitives()) {
         switch (p.quoi) {
         case primitive::forme::efface:
-            break;
+            break; // the list begins with it
         case primitive::forme::cercle:
-            if (p.rayon * j.pixels_par_twip > rayon_copie * densite)
-                plume = 1;
             cercle(j, p);
             break;
-        case primitive::forme::ligne: {
-            QLineF l{j.place(p.x), j.place(p.y), j.place(p.x2), j.place(p.y2)};
-            if (!QRectF{l.p1(), l.p2()}.normalized().adjusted(-2, -2, 2, 2).intersects(j.cadre))
-                break;
-            if (l.y1() == l.y2() || l.x1() == l.x2())
-                l.translate(l.y1() == l.y2()
-                                ? QPointF{0, std::floor(p.y * j.pixels_par_twip) + j.trait / 2 - l.y1()}
-                                : QPointF{std::floor(p.x * j.pixels_par_twip) + j.trait / 2 - l.x1(), 0});
-            if (std::exchange(plume, teinte(p.contour)) != teinte(p.contour))
-                j.p.setPen(QPen{QColor{teinte(p.contour)}, j.trait, Qt::SolidLine, Qt::FlatCap});
-            j.p.drawLine(l);
+        case primitive::forme::ligne:
+            ligne(j, p);
             break;
-        }
         case primitive::forme::texte:
             lettre(j, p);
             break;
         }
     }
+}
+
+// A line along an axis lies on whole pixels.
+void peintre::ligne(jour& j, const primitive& p) {
+    const auto entiere = [&j](double twips) { return std::floor(twips * j.pixels_par_twip) + j.trait / 2; };
+    QLineF l{j.place(p.x), j.place(p.y), j.place(p.x2), j.place(p.y2)};
+    if (p.y == p.y2)
+        l = {l.x1(), entiere(p.y), l.x2(), entiere(p.y)};
+    else if (p.x == p.x2)
+        l = {entiere(p.x), l.y1(), entiere(p.x), l.y2()};
+    const auto autour = QRectF{l.p1(), l.p2()}.normalized().adjusted(-2, -2, 2, 2);
+    if (!autour.intersects(j.cadre))
+        return;
+    j.p.setPen(QPen{QColor{teinte(p.contour)}, j.trait, Qt::SolidLine, Qt::FlatCap});
+    j.p.drawLine(l);
 }
 
 void peintre::cercle(jour& j, const primitive& p) {

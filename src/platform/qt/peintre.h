@@ -21,6 +21,7 @@ class peintre {
     using cle = std::tuple<double, QRgb, QRgb, bool, int, int>;
 
     void cercle(jour& j, const primitive& p);
+    void ligne(jour& j, const primitive& p);
     void lettre(jour& j, const primitive& p);
     const QImage& pastille(const jour& j, const primitive& p, int phase_x, int phase_y);
 

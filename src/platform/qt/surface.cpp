@@ -63,14 +63,13 @@ void surface::montre() {
     repaint();
 }
 
-// Pixel for pixel, also where the scale puts the widget between two.
+// In the screen's own pixels: nothing is left to scale, and a window that stands between two is rounded to
+// one.
 void surface::paintEvent(QPaintEvent*) {
     if (image_.size() != taille_voulue())
         peint();
     QPainter p{this};
-    const auto ecran = p.deviceTransform();
     const double d = devicePixelRatioF();
-    p.translate((std::round(ecran.dx()) - ecran.dx()) / d, (std::round(ecran.dy()) - ecran.dy()) / d);
     p.scale(1 / d, 1 / d);
     p.drawImage(0, 0, image_);
 }

@@ -12,11 +12,6 @@
 
 namespace plateforme {
 
-/// Thrown for a line that is not understood, with the reason.
-struct ligne_incomprise {
-    std::string raison;
-};
-
 /// Thrown by an `attend` that fails.
 struct attente_decue {
     std::string raison;
@@ -59,9 +54,6 @@ class meneur {
   private:
     void execute(const std::string& commande);
     bool prepare(std::string_view mot, const std::string& reste);
-    bool agit(std::string_view mot, const std::string& reste);
-    bool agit_sur_liste(std::string_view mot, const std::string& reste);
-    bool agit_sur_surface(std::string_view mot, const std::string& reste);
     void montre(const std::string& quoi);
     std::string reponse(const std::string& quoi);
     void attend(const std::string& reste);

@@ -2,6 +2,7 @@
 
 #include "base/fatale.h"
 #include "platform/virtuelle/meneur.h"
+#include "platform/virtuelle/mots.h"
 #include "shell/panneau.h"
 
 #include <ostream>
