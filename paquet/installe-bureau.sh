@@ -41,7 +41,7 @@ TryExec=$(valeur "$ici/$1")
 Path=$(valeur "$ici")
 Icon=$(valeur "$ici/icones/$4")
 Terminal=false
-Categories=Education;Science;Astronomy;
+Categories=Education;Astronomy;
 FIN
 }
 

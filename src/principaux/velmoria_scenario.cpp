@@ -11,7 +11,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// The delivered data: those beside the executable, unless a file beside it, made where it is built, names others.
+// The delivered data: those beside the executable, unless a file beside it, made where it is built, names
+// others.
 fs::path donnees_livrees() {
     std::error_code erreur;
     const auto ici = fs::read_symlink("/proc/self/exe", erreur).parent_path();
