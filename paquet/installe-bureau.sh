@@ -21,8 +21,8 @@ esac
 
 # A value of a desktop entry: the backslash is its escape.
 valeur() { printf '%s' "$1" | sed 's/\\/\\\\/g'; }
-# A command's path: quoted, where " ` $ \ take a backslash; % doubled; and all of that is a value.
-commande() { valeur "\"$(printf '%s' "$1" | sed 's/[\\"`$]/\\&/g; s/%/%%/g')\""; }
+# A command's path: quoted, where " ` $ \ take a backslash; and all of that is a value.
+commande() { valeur "\"$(printf '%s' "$1" | sed 's/[\\"`$]/\\&/g')\""; }
 
 # entree PROGRAM NAME COMMENT ICON
 entree() {
@@ -44,6 +44,14 @@ Terminal=false
 Categories=Education;Astronomy;
 FIN
 }
+
+# Both have a meaning of their own in a menu's command, and desktops differ in how they read them there.
+case $ici in
+*[%=]*)
+    echo "Les menus ne savent pas lire « % » ni « = » dans un nom de dossier. Renommez : $ici" >&2
+    exit 1
+    ;;
+esac
 
 mkdir -p "$menu"
 entree velmoria-aujourdhui "Velmoria" "Conduire le télescope par le port parallèle" velmoria-256.png

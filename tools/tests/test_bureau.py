@@ -21,15 +21,14 @@ def valeur(texte):
 
 
 def commande(texte):
-    """The one argument of an Exec line: a value, quoted, with its field codes undone."""
+    """The one argument of an Exec line: a value, quoted, without field codes."""
     texte = valeur(texte)
     assert texte[0] == texte[-1] == '"', texte
     sortie, suite = "", iter(texte[1:-1])
     for c in suite:
-        assert c not in '"`$', f"{c} stands bare in {texte}"
+        assert c not in '"`$%=', f"{c} stands bare in {texte}"
         sortie += next(suite) if c == "\\" else c
-    assert "%" not in sortie.replace("%%", ""), texte
-    return sortie.replace("%%", "%")
+    return sortie
 
 
 class Bureau(unittest.TestCase):
@@ -58,7 +57,7 @@ class Bureau(unittest.TestCase):
         return dict(ligne.split("=", 1) for ligne in lignes[1:])
 
     def test_entrees(self):
-        for nom in ("simple", "Télescope d'été", "l'\"œil\" $HOME `a` 100% %f a\\b & c|d"):
+        for nom in ("simple", "Télescope d'été", "l'\"œil\" $HOME `a` a\\b & c|d"):
             with self.subTest(nom):
                 dossier = self.installe(nom)
                 fait = self.lance(dossier)
@@ -86,6 +85,10 @@ class Bureau(unittest.TestCase):
         (dossier / PROGRAMMES[0]).unlink()
         self.assertEqual(self.lance(dossier).returncode, 1)
         self.assertEqual(self.lance(dossier, "--autre").returncode, 2)
+        for nom in ("à 100 %", "a=b"):
+            fait = self.lance(self.installe(nom))
+            self.assertEqual(fait.returncode, 1)
+            self.assertIn(nom, fait.stderr)
         self.assertFalse(list(self.racine.rglob("*.desktop")))
 
 
