@@ -11,6 +11,7 @@
 #include "piloting/frmequapilot_champs.h"
 #include "platform/linux/attente_precise.h"
 #include "platform/linux/horloge_systeme.h"
+#include "platform/plateforme.h"
 #include "platform/qt/lance.h"
 #include "platform/qt/mesures.h"
 #include "platform/qt/vue_qt.h"
@@ -20,6 +21,7 @@
 #include "shell/programme.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QTimer>
@@ -144,8 +146,11 @@ int main(int argc, char** argv) {
                                    .apres_cession = [&etabli] { etabli.cession_finie(); },
                                    .icone = "velmoria-banc",
                                    .donnees = donnees}};
+    // What the help and about panels show must not tell on which machine the pictures were made.
+    plateforme::courante.aide = "/home/observateur/velmoria/aide";
     seance.demarre();
     banc::fenetre_banc banc{etabli, horloge};
+    banc.findChild<QLineEdit*>("chemin_vcd")->setText("/home/observateur/velmoria.vcd");
     banc.show();
     const photographe photo{seance.vue().principale(), dossier};
     photo.prend(seance.vue().principale(), "demarrage");

@@ -9,8 +9,9 @@ construire) ;;
 verifier) paquets+=(clang libclang-rt-14-dev libgtest-dev xvfb xauth python3 python3-erfa python3-astropy python3-pil) ;;
 mesurer) paquets+=(libbenchmark-dev xvfb xauth) ;;
 captures) paquets+=(xvfb xauth) ;;
+captures_aide) paquets+=(xvfb xauth python3 python3-pil) ;;
 *)
-    echo "usage: $0 construire|verifier|mesurer|captures" >&2
+    echo "usage: $0 construire|verifier|mesurer|captures|captures_aide" >&2
     exit 2
     ;;
 esac

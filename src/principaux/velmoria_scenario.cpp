@@ -5,18 +5,21 @@
 #include <cstdio>
 #include <fstream>
 #include <iostream>
+#include <string>
 
 namespace fs = std::filesystem;
 
 namespace {
 
-// The delivered data: those of the source tree where the program was built, else those beside the executable.
+// The delivered data: those beside the executable, unless a file beside it, made where it is built, names
+// others.
 fs::path donnees_livrees() {
     std::error_code erreur;
-    const fs::path source{VELMORIA_DONNEES};
-    if (fs::is_directory(source, erreur))
-        return source;
-    return fs::read_symlink("/proc/self/exe", erreur).parent_path() / "data";
+    const auto ici = fs::read_symlink("/proc/self/exe", erreur).parent_path();
+    std::string ailleurs;
+    if (std::ifstream f{ici / "velmoria-scenario.donnees"}; std::getline(f, ailleurs))
+        return ailleurs;
+    return ici / "data";
 }
 
 } // namespace
