@@ -52,6 +52,43 @@ std::vector<const shell::panneau*> panneaux_montres() {
     return v;
 }
 
+// How often it is drawn: what starts and stops motions often, what is only looked at seldom.
+int poids(const shell::controle& c) {
+    switch (c.espece()) {
+    case genre::etiquette:
+    case genre::image:
+        return 1;
+    case genre::bouton:
+    case genre::outil:
+    case genre::liste:
+    case genre::surface:
+        return 16;
+    case genre::texte:
+        return 3;
+    default:
+        return 6;
+    }
+}
+
+// A panel that can move the telescope draws more attention than a page of help.
+int poids(const shell::panneau& p) {
+    for (const auto* c : p.controles())
+        if (c->a(shell::arret) || c->espece() == genre::liste || c->espece() == genre::minuteur)
+            return 5;
+    return 2;
+}
+
+template <class T> const T& pese(hasard& h, const std::vector<const T*>& choix) {
+    int total = 0;
+    for (const auto* x : choix)
+        total += poids(*x);
+    int n = h.entre(1, total);
+    for (const auto* x : choix)
+        if ((n -= poids(*x)) <= 0)
+            return *x;
+    return *choix.back();
+}
+
 } // namespace
 
 std::string generateur::duree(double bas_ms, double haut_ms) {
@@ -60,7 +97,8 @@ std::string generateur::duree(double bas_ms, double haut_ms) {
 
 std::string generateur::touche_raquette() {
     static constexpr int codes[] = {2, 3, 9, 10, 13, 15, 18, 19, 26, 137, 141, 143};
-    return "raquette " + std::to_string(hasard_.une_fois_sur(8) ? hasard_.entre(0, 255) : hasard_.parmi(codes));
+    return "raquette " +
+           std::to_string(hasard_.une_fois_sur(8) ? hasard_.entre(0, 255) : hasard_.parmi(codes));
 }
 
 std::string generateur::texte(bool plusieurs_lignes) {
@@ -69,13 +107,13 @@ std::string generateur::texte(bool plusieurs_lignes) {
                                            "0x10",  "1d5",    "Vrai",       "\"",         "1 2 3", "-0",
                                            "1e308", "-1e308", "1e309",      "1e-320",     "32767", "32768",
                                            "65535", "-32769", "2147483647", "2147483648", "1e15",  "-1"};
-    switch (hasard_.entre(0, 9)) {
+    switch (hasard_.entre(0, 15)) {
     case 0:
         return hasard_.parmi(bizarres);
     case 1:
         if (plusieurs_lignes)
             return "|une ligne||une autre|";
-        return hasard_.une_fois_sur(10) ? std::string(5000, '9') : "0";
+        return hasard_.une_fois_sur(40) ? std::string(5000, '9') : "0";
     case 2:
         return std::to_string(hasard_.entre(-400, 400));
     case 3:
@@ -132,22 +170,19 @@ std::string generateur::acte_sur(const shell::controle& c) {
 
 // An act on what is on screen; empty if the draw fell on nothing.
 std::string generateur::acte_sur_panneau() {
-    auto montres = panneaux_montres();
+    const auto montres = panneaux_montres();
     if (montres.empty())
         return {};
-    const auto& p = *hasard_.parmi(montres);
+    const auto& p = pese(hasard_, montres);
     if (hasard_.une_fois_sur(p.options().boite_de_fermeture == shell::fermeture::termine ? 4000 : 40))
         return "ferme " + std::string{p.nom()};
     std::vector<const shell::controle*> choix;
-    for (const auto* c : p.controles()) {
-        // Labels and pictures seldom answer; a motion's controls and the texts do.
-        const bool muet = c->espece() == genre::etiquette || c->espece() == genre::image;
-        if (peut_agir(*c) && a_portee(*c) && (!muet || hasard_.une_fois_sur(8)))
+    for (const auto* c : p.controles())
+        if (peut_agir(*c) && a_portee(*c))
             choix.push_back(c);
-    }
     if (choix.empty())
         return {};
-    const auto& c = *hasard_.parmi(choix);
+    const auto& c = pese(hasard_, choix);
     if (c.nom() == "Quitter" && !hasard_.une_fois_sur(60))
         return {};
     return acte_sur(c);
@@ -161,11 +196,11 @@ std::string generateur::decor() {
     case 1:
         return "raquette 11";
     case 2:
-        return hasard_.une_fois_sur(4) ? "horloge 200" + std::to_string(hasard_.entre(0, 1)) + "-0" +
-                                             std::to_string(hasard_.entre(1, 9)) + "-28 2" +
-                                             std::to_string(hasard_.entre(0, 3)) + ":59:5" +
-                                             std::to_string(hasard_.entre(0, 9))
-                                       : std::string{};
+        return hasard_.une_fois_sur(4)
+                   ? "horloge 200" + std::to_string(hasard_.entre(0, 1)) + "-0" +
+                         std::to_string(hasard_.entre(1, 9)) + "-28 2" + std::to_string(hasard_.entre(0, 3)) +
+                         ":59:5" + std::to_string(hasard_.entre(0, 9))
+                   : std::string{};
     default:
         return {};
     }
@@ -180,7 +215,8 @@ std::string generateur::acte() {
     return "raquette 11";
 }
 
-// Every motion must have what ends it: the stops on screen, that of the slew to come, and the paddle released.
+// Every motion must have what ends it: the stops on screen, that of the slew to come, and the paddle
+// released.
 void generateur::arrets() {
     const auto quand = duree(0.01, 400);
     const auto apres = duree(500, 2000);

@@ -13,17 +13,35 @@ namespace singe {
 namespace {
 
 // Motions and mode commands, and what starts them. Everything that yields may run an order or a timer too.
-constexpr std::string_view auteurs[] = {
-    "frminterface.barequa(1)",      "frminterface.barequa(2)",     "frminterface.barequa(3)",
-    "frminterface.baraltaz(1)",     "frminterface.baraltaz(2)",    "frminterface.baraltaz(3)",
-    "frminterface.baraltaz(5)",     "frminterface.bargeneral(1)",  "frminterface.bargeneral(2)",
-    "frminterface.Quitter",         "frminterface.mnusuivi",       "frminterface.mnupilotageequa",
-    "frminterface.mnupilotagealtaz", "frmaltazpilot.cmdag",        "frmaltazpilot.cmdad",
-    "frmaltazpilot.cmdhb",          "frmaltazpilot.cmdhh",         "frmequapilot.cmdag",
-    "frmequapilot.cmdad",           "frmequapilot.cmdhb",          "frmequapilot.cmdhh",
-    "frmaltazsuivi.cmdraquette",    "frmconfig.cmdaltencoding",    "frmconfig.cmdazencoding",
-    "frmconfig.cmdbacklash",        "frmequaconfig.cmdbacklash",   "frmaltazpointage.lbObjets",
-    "frmequapointage.lbObjets",     "frmequapointage.bOK"};
+constexpr std::string_view auteurs[] = {"frminterface.barequa(1)",
+                                        "frminterface.barequa(2)",
+                                        "frminterface.barequa(3)",
+                                        "frminterface.baraltaz(1)",
+                                        "frminterface.baraltaz(2)",
+                                        "frminterface.baraltaz(3)",
+                                        "frminterface.baraltaz(5)",
+                                        "frminterface.bargeneral(1)",
+                                        "frminterface.bargeneral(2)",
+                                        "frminterface.Quitter",
+                                        "frminterface.mnusuivi",
+                                        "frminterface.mnupilotageequa",
+                                        "frminterface.mnupilotagealtaz",
+                                        "frmaltazpilot.cmdag",
+                                        "frmaltazpilot.cmdad",
+                                        "frmaltazpilot.cmdhb",
+                                        "frmaltazpilot.cmdhh",
+                                        "frmequapilot.cmdag",
+                                        "frmequapilot.cmdad",
+                                        "frmequapilot.cmdhb",
+                                        "frmequapilot.cmdhh",
+                                        "frmaltazsuivi.cmdraquette",
+                                        "frmconfig.cmdaltencoding",
+                                        "frmconfig.cmdazencoding",
+                                        "frmconfig.cmdbacklash",
+                                        "frmequaconfig.cmdbacklash",
+                                        "frmaltazpointage.lbObjets",
+                                        "frmequapointage.lbObjets",
+                                        "frmequapointage.bOK"};
 
 bool ecrit(const std::string& ligne) {
     if (ligne == "demarre" || ligne.starts_with("avance ") || ligne.starts_with("menu "))
@@ -93,7 +111,7 @@ std::string regles::echec(const std::string& explication) const {
         return "échec sans détail, " + explication;
     const bool manque =
         dit("fichier introuvable") || dit("fin de fichier dépassée") || dit("image illisible");
-    if (manque && !fichiers_ && !dit("/date/") && !dit("notes.txt"))
+    if (manque && !fichiers_ && !dit("/sg0.txt") && !dit("notes.txt"))
         return "fichier livré devenu illisible, " + explication;
     return {};
 }

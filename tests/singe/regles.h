@@ -23,10 +23,10 @@ class regles {
 
     std::string ligne_;
     bool peut_ecrire_ = true;
-    bool quitter_ = false;         // an order to quit was given
-    bool fichiers_ = false;        // data files were tampered with
-    bool rafales_ = false;         // tracking was on: bursts and jogs may mix their direction values
-    std::bitset<256> sens_tapes_;  // low bytes of the direction values typed so far
+    bool quitter_ = false;        // an order to quit was given
+    bool fichiers_ = false;       // data files were tampered with
+    bool rafales_ = false;        // tracking was on: bursts and jogs may mix their direction values
+    std::bitset<256> sens_tapes_; // low bytes of the direction values typed so far
 };
 
 } // namespace singe

@@ -1,5 +1,5 @@
-// essais_singe GRAINE ACTES [DEPARTS]: plays DEPARTS runs (default 1) of about ACTES acts each, from the start
-// value GRAINE on; prints the shortest scenario found for each fault. Status 1 if there was one.
+// essais_singe GRAINE ACTES [DEPARTS]: plays DEPARTS runs (default 1) of about ACTES acts each, from the
+// start value GRAINE on; prints the shortest scenario found for each fault. Status 1 if there was one.
 // essais_singe GRAINE ACTES 0: prints the run of one start as it was played.
 // essais_singe FICHIER: plays a scenario under the same watch.
 
@@ -100,7 +100,7 @@ int main(int argc, char** argv) {
         ++fins[v.fin];
         if (v.faute.empty() || ++fautes[v.faute] > 1)
             continue; // the same fault is told once
-        std::cout << "# graine " << g << " : " << v.lignes.size() << " lignes, réduites\n";
+        std::cout << "# graine " << g << " : " << v.lignes.size() << " lignes : " << v.faute << std::endl;
         montre(reduit(v));
     }
     std::cout << "départs " << departs << ", lignes " << lignes << ", écritures " << ecritures << '\n';
