@@ -111,8 +111,12 @@ void pointe_objet() {
     frmaltazpointage::choix.tdcpos.legende(catalogue::texte_dec({cibledeg, cibledegmin}));
     distaz = ecart_tolere + 1;
     distalt = ecart_tolere + 1;
-    while (std::abs(distalt) >= ecart_tolere || std::abs(distaz) >= ecart_tolere)
+    bool arrete = false;
+    // A stop asked for before the pass leaves it without a pulse, and its differences as they are.
+    while (!arrete && (std::abs(distalt) >= ecart_tolere || std::abs(distaz) >= ecart_tolere)) {
         pointealtaz();
+        arrete = static_cast<bool>(stoppointage);
+    }
     frmDepl::fiche.decharge();
     stoppointage = false;
 }

@@ -1,0 +1,32 @@
+// What a run may put on the port, who may do so, and how it may end.
+#pragma once
+
+#include "platform/port.h"
+
+#include <bitset>
+#include <cstdint>
+#include <string>
+
+namespace singe {
+
+class regles {
+  public:
+    /// The line that is about to be carried out.
+    void ligne(const std::string& l);
+    /// Empty, or what is wrong with this write.
+    std::string ecriture(int adresse, std::uint8_t valeur);
+    /// Empty, or what is wrong with an end by this failure. `explication` names cause and detail.
+    std::string echec(const std::string& explication) const;
+
+  private:
+    bool sens_permis(unsigned valeur);
+
+    std::string ligne_;
+    bool peut_ecrire_ = true;
+    bool quitter_ = false;        // an order to quit was given
+    bool fichiers_ = false;       // data files were tampered with
+    bool rafales_ = false;        // tracking was on: bursts and jogs may mix their direction values
+    std::bitset<256> sens_tapes_; // low bytes of the direction values typed so far
+};
+
+} // namespace singe

@@ -1,0 +1,236 @@
+#include "surveillance.h"
+
+#include "bench/monture.h"
+#include "platform/plateforme.h"
+#include "platform/virtuelle/meneur.h"
+#include "platform/vue.h"
+#include "regles.h"
+#include "shell/programme.h"
+#include "sky/position.h"
+
+#include <cmath>
+#include <csignal>
+#include <cstring>
+#include <sstream>
+#include <streambuf>
+#include <sys/mman.h>
+#include <sys/time.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace singe {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::uint64_t ecritures_maximum = 200'000; // a longer run proves no more
+constexpr int secondes_maximum = 12;                 // and neither does a slower one
+
+// What the child leaves behind, also when it dies.
+struct bilan {
+    char lignes[1 << 20];
+    std::size_t longueur;
+    char faute[4096];
+    char fin[4096];
+    std::uint64_t ecritures;
+    bool fini;
+};
+
+bilan* b = nullptr; // shared with the child
+regles* r = nullptr;
+const shell::entree* popup = nullptr;
+volatile std::int64_t temps_vu = -1; // virtual time at the last look of the watchdog
+int coups = 0;
+
+template <std::size_t N> void note(char (&ou)[N], const std::string& s) {
+    std::strncpy(ou, s.c_str(), N - 1);
+}
+
+[[noreturn]] void termine() {
+    b->fini = true;
+    std::_Exit(0);
+}
+
+void juge(const std::string& faute) {
+    if (faute.empty())
+        return;
+    note(b->faute, faute);
+    termine();
+}
+
+class port_espion final : public plateforme::port {
+  public:
+    explicit port_espion(plateforme::port& p) : port_(p) {}
+    void ecrit(int adresse, std::uint8_t valeur) override {
+        juge(r->ecriture(adresse, valeur));
+        port_.ecrit(adresse, valeur);
+        if (++b->ecritures >= ecritures_maximum)
+            throw plateforme::fin_du_scenario{};
+    }
+    std::uint8_t lit(int adresse) override { return port_.lit(adresse); }
+
+  private:
+    plateforme::port& port_;
+};
+
+// Knows which popup is open; the rest is the scenario's own view.
+class vue_espion final : public plateforme::vue {
+  public:
+    explicit vue_espion(plateforme::vue& v) : vue_(v) {}
+    void panneau_change(const shell::panneau& p) override { vue_.panneau_change(p); }
+    void eleve(const shell::panneau& p) override { vue_.eleve(p); }
+    void repeint(const shell::panneau& p) override { vue_.repeint(p); }
+    void controle_change(const shell::controle& c, plateforme::aspect a) override {
+        vue_.controle_change(c, a);
+    }
+    shell::entree* ouvre_menu(shell::entree& racine, const shell::entree* defaut) override {
+        popup = &racine;
+        auto* choisie = vue_.ouvre_menu(racine, defaut);
+        popup = nullptr;
+        return choisie;
+    }
+    void message(const std::string& texte) override { vue_.message(texte); }
+    plateforme::image charge_image(const fs::path& chemin) override { return vue_.charge_image(chemin); }
+
+  private:
+    plateforme::vue& vue_;
+};
+
+void verifie_au_repos() {
+    if (!std::isfinite(general::posaz) || !std::isfinite(general::posalt))
+        juge("position qui n'est pas un nombre");
+    for (const auto* p : programme::registre().panneaux)
+        if (p->est_visible() && !p->est_charge())
+            juge("panneau montré sans être chargé, " + std::string{p->nom()});
+}
+
+// Hands out the lines one by one, and looks at the program between them.
+class souffleur final : public std::streambuf {
+  public:
+    explicit souffleur(const source& s) : source_(s) {}
+
+  protected:
+    int_type underflow() override {
+        if (!port_) {
+            port_ = std::make_unique<port_espion>(*plateforme::courante.port);
+            vue_ = std::make_unique<vue_espion>(*plateforme::courante.vue);
+            plateforme::courante.port = port_.get();
+            plateforme::courante.vue = vue_.get();
+        }
+        verifie_au_repos();
+        const auto* ouvert = std::exchange(popup, nullptr); // one answer a popup
+        ligne_ = source_(ouvert);
+        if (ligne_.empty() || b->longueur + ligne_.size() + 1 > sizeof b->lignes)
+            return traits_type::eof();
+        ligne_ += '\n';
+        std::memcpy(b->lignes + b->longueur, ligne_.data(), ligne_.size());
+        b->longueur += ligne_.size();
+        r->ligne(ligne_.substr(0, ligne_.size() - 1));
+        setg(ligne_.data(), ligne_.data(), ligne_.data() + ligne_.size());
+        return traits_type::to_int_type(ligne_.front());
+    }
+
+  private:
+    const source& source_;
+    std::string ligne_;
+    std::unique_ptr<port_espion> port_;
+    std::unique_ptr<vue_espion> vue_;
+};
+
+// Once a second: a run may be slow, but time or the port must move.
+void chien_de_garde(int) {
+    const auto* boucle = dynamic_cast<plateforme::boucle_virtuelle*>(plateforme::courante.boucle);
+    const std::int64_t temps = boucle ? boucle->temps() : 0;
+    const bool bouge = temps != temps_vu;
+    temps_vu = temps;
+    if (++coups < secondes_maximum)
+        return;
+    std::strcpy(b->fin, "coupé : lent");
+    if (!bouge)
+        std::strcpy(b->faute, "le temps n'avance plus");
+    b->fini = true;
+    std::_Exit(0);
+}
+
+[[noreturn]] void joue_dans_l_enfant(const source& lignes, const fs::path& donnees) {
+    std::signal(SIGALRM, chien_de_garde);
+    const itimerval seconde{{1, 0}, {1, 0}};
+    setitimer(ITIMER_REAL, &seconde, nullptr);
+    regles les_regles;
+    r = &les_regles;
+    souffleur tampon{lignes};
+    std::istream entree{&tampon};
+    std::ostringstream sortie;
+    std::ostringstream explications;
+    const int statut = plateforme::joue({.lignes = entree,
+                                         .nom = "singe",
+                                         .dossier = donnees,
+                                         .donnees = donnees,
+                                         .sortie = sortie,
+                                         .explications = explications});
+    auto dit = explications.str();
+    dit = dit.substr(0, dit.find('\n'));
+    if (dit.starts_with("singe:"))
+        dit = dit.substr(std::min(dit.find(": "), dit.size() - 2) + 2);
+    // The private folder's name differs from run to run.
+    if (const auto tmp = dit.find("/velmoria-"); tmp != std::string::npos)
+        dit.erase(dit.rfind(' ', tmp) + 1, tmp + 16 - dit.rfind(' ', tmp));
+    note(b->fin, std::to_string(statut) + (dit.empty() ? "" : " : " + dit));
+    if (statut == 3)
+        juge(les_regles.echec(dit));
+    else if (statut != 0)
+        juge("statut " + std::to_string(statut) + " : " + dit);
+    termine();
+}
+
+std::string sans_bilan(int etat) {
+    if (WIFSIGNALED(etat))
+        return "arrêt brutal, signal " + std::to_string(WTERMSIG(etat));
+    return "arrêt brutal, statut " + std::to_string(WEXITSTATUS(etat));
+}
+
+std::string contenu(int fd) {
+    std::string s;
+    char bloc[4096];
+    lseek(fd, 0, SEEK_SET);
+    for (ssize_t n = read(fd, bloc, sizeof bloc); n > 0; n = read(fd, bloc, sizeof bloc))
+        s.append(bloc, static_cast<std::size_t>(n));
+    return s;
+}
+
+} // namespace
+
+verdict joue_sous_surveillance(const source& lignes, const fs::path& donnees) {
+    static auto* partage = static_cast<bilan*>(
+        mmap(nullptr, sizeof(bilan), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
+    b = partage;
+    b->longueur = 0;
+    b->ecritures = 0;
+    b->faute[0] = b->fin[0] = 0;
+    b->fini = false;
+    std::string dossier = (fs::temp_directory_path() / "singe-XXXXXX").string();
+    if (b == MAP_FAILED || !mkdtemp(dossier.data()))
+        std::abort();
+    const int erreurs = memfd_create("erreurs", 0);
+    const pid_t enfant = fork();
+    if (enfant == 0) {
+        setenv("TMPDIR", dossier.c_str(), 1);
+        dup2(erreurs, STDERR_FILENO);
+        joue_dans_l_enfant(lignes, donnees);
+    }
+    int etat = 0;
+    if (enfant < 0 || waitpid(enfant, &etat, 0) != enfant)
+        std::abort();
+    fs::remove_all(dossier);
+    verdict v{b->faute, b->fin, contenu(erreurs), {}, b->ecritures};
+    close(erreurs);
+    if (!b->fini)
+        v.faute = sans_bilan(etat);
+    std::istringstream texte{std::string{b->lignes, b->longueur}};
+    for (std::string l; std::getline(texte, l);)
+        v.lignes.push_back(l);
+    return v;
+}
+
+} // namespace singe
