@@ -7,7 +7,7 @@ namespace frmLegend {
 
 using namespace shell;
 
-inline constinit panneau fiche{"frmLegend", "Légende", 4320, 3300};
+inline constinit panneau fiche{"frmLegend", "Légende", 4260, 3240};
 
 inline constinit champ_image signes{
     fiche, "signes", {0, 0, 4170, 2820}, {.image = "legende", .traits = fond}};
