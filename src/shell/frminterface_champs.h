@@ -11,7 +11,7 @@ inline constinit panneau fiche{
     "frminterface",
     "Velmoria : Pilotage de télescopes",
     15000,
-    11000,
+    12000, // the tallest panel, the chart, finds room under the bars
     {.boite_de_fermeture = fermeture::termine, .taille_fixe = false, .principal = true}};
 
 // A toolbar button's value is the index of its icon in the image list.

@@ -92,7 +92,7 @@ TEST_P(disposition, child_windows) {
 }
 
 TEST_P(disposition, toolbars_show_all_their_texts_and_icons) {
-    EXPECT_EQ(principale()->size(), QSize(1000, 733)); // 15000 x 11000 twips
+    EXPECT_EQ(principale()->size(), QSize(1000, 800)); // 15000 x 12000 twips
     for (auto* c : fiche("frminterface").controles())
         if (c->espece() == shell::genre::barre_outils)
             c->visible(true);

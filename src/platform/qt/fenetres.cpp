@@ -216,7 +216,7 @@ void accorde_taille(fenetre& f) {
         w.setWindowState(w.windowState() ^ Qt::WindowMaximized);
     // A size the observer gave it stays until the program asks for another.
     if (std::exchange(f.demandee, taille) != taille)
-        w.resize(taille);
+        w.resize(f.fiche->options().principal ? taille.boundedTo(w.screen()->availableSize()) : taille);
 }
 
 void montre(fenetre& f) {
