@@ -24,6 +24,7 @@
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QPushButton>
 #include <QTimer>
 #include <cstdio>
 
@@ -108,6 +109,8 @@ void en_mouvement(const photographe& photo, QWidget* principale, banc::fenetre_b
     photo.prend(principale, "altazimutal");
     frminterface::baraltaz_boutons(3).clic();
     photo.place(frmaltazpilot::fiche, 30, 210);
+    // The lateness shown is the jog's own, not that of the pictures taken so far.
+    QTimer::singleShot(1000, [&] { banc.findChild<QPushButton*>("oublie_retard")->click(); });
     QTimer::singleShot(2500, [&] {
         banc.rafraichit();
         photo.prend(&banc, "banc");
