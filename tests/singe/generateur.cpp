@@ -64,6 +64,7 @@ int poids(const shell::controle& c) {
     case genre::surface:
         return 16;
     case genre::texte:
+    case genre::deroulante:
         return 3;
     default:
         return 6;
@@ -138,7 +139,9 @@ std::string generateur::acte_sur(const shell::controle& c) {
     case genre::liste:
     case genre::deroulante: {
         const auto derniere = static_cast<int>(c.regarde_lignes().size()) - 1;
-        const int k = derniere >= 0 && !hasard_.une_fois_sur(12) ? hasard_.entre(0, derniere) : -1;
+        if (derniere < 0 && !hasard_.une_fois_sur(40))
+            return {};
+        const int k = derniere >= 0 && !hasard_.une_fois_sur(60) ? hasard_.entre(0, derniere) : -1;
         if (c.espece() == genre::deroulante)
             return k < 0 ? std::string{} : avec("choisit", k);
         static constexpr const char* mots[] = {"choisit", "double", "double", "droit"};
@@ -218,8 +221,8 @@ std::string generateur::acte() {
 // Every motion must have what ends it: the stops on screen, that of the slew to come, and the paddle
 // released.
 void generateur::arrets() {
-    const auto quand = duree(0.01, 400);
-    const auto apres = duree(500, 2000);
+    const auto quand = duree(0.01, 2000);
+    const auto apres = duree(500, 4000);
     for (const auto* p : programme::registre().panneaux)
         for (const auto* c : p->controles())
             if (c->a(shell::arret) &&
