@@ -72,13 +72,20 @@ template <class F> void avec_fichier(const char* nom, std::string_view octets, F
     auto& m = la_machine();
     plateforme::courante = {&m.port, &m.boucle, &m.boucle, &m.vue, m.donnees()};
     base::installe_gestionnaire([](base::cause, const std::string&) { throw refus{}; });
-    programme::construit();
     m.sortie.str({});
     base::ecrit_fichier(m.donnees() / nom, octets);
     try {
         f();
     } catch (const refus&) {
     }
+}
+
+// The same, with all panels in their design state.
+template <class F> void avec_panneaux(const char* nom, std::string_view octets, F&& f) {
+    avec_fichier(nom, octets, [&f] {
+        programme::construit();
+        f();
+    });
 }
 
 // The first byte chooses the separators, the next ones the readings, over and over.
@@ -124,7 +131,7 @@ void reglages(std::string_view octets) {
 
 // What was loaded and saved is loaded again as the same text.
 void notes(std::string_view octets) {
-    avec_fichier("notes.txt", octets, [] {
+    avec_panneaux("notes.txt", octets, [] {
         const auto lu = Frmnotes::txtnotes.lit();
         Frmnotes::Picturesave.appuie();
         Frmnotes::fiche.decharge();
@@ -134,7 +141,7 @@ void notes(std::string_view octets) {
 }
 
 void almanach(std::string_view octets) {
-    avec_fichier("date/2001/janvier/sg0.txt", octets, [] {
+    avec_panneaux("date/2001/janvier/sg0.txt", octets, [] {
         frmcoord::cbannee.position(1);
         frmcoord::cbmois.position(0);
         for (const int jour : {0, 15, 30}) {
@@ -164,7 +171,7 @@ void catalogues(std::string_view octets) {
 void liste(std::string_view octets) {
     // A name may not lead out of the data folder here: whatever the machine holds would be read.
     if (octets.find("..") == std::string_view::npos && !octets.empty())
-        avec_fichier("img/liste.txt", octets, [] { frminterface::fiche.charge(); });
+        avec_panneaux("img/liste.txt", octets, [] { frminterface::fiche.charge(); });
 }
 
 void image(std::string_view octets) {
