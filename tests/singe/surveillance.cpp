@@ -182,7 +182,7 @@ void chien_de_garde(int) {
     note(b->fin, std::to_string(statut) + (dit.empty() ? "" : " : " + dit));
     if (statut == 3)
         juge(les_regles.echec(dit));
-    else if (statut != 0)
+    else if (statut != 0 && !(dit.starts_with("un mouvement continue") && les_regles.rafale_d_un_jour()))
         juge("statut " + std::to_string(statut) + " : " + dit);
     termine();
 }
