@@ -1,8 +1,11 @@
 #include "generateur.h"
 
 #include "base/nombre.h"
+#include "platform/plateforme.h"
 #include "shell/programme.h"
 
+#include <algorithm>
+#include <filesystem>
 #include <vector>
 
 namespace singe {
@@ -250,11 +253,26 @@ void generateur::acte_et_ordres() {
     file_.push_back(a);
 }
 
+// A settings file with other values than those delivered, perhaps too few.
+std::string generateur::fichier_gate() {
+    std::vector<std::string> noms;
+    for (const auto& f : std::filesystem::directory_iterator{plateforme::courante.donnees})
+        if (f.path().extension() == ".ini")
+            noms.push_back(f.path().filename().string());
+    std::sort(noms.begin(), noms.end());
+    auto ligne = "fichier " + hasard_.parmi(noms) + " " + texte(false);
+    for (int n = hasard_.entre(0, 12); n > 0; --n)
+        ligne += "|" + texte(false);
+    return ligne;
+}
+
 // The usual ways into the work, so that most runs get to motions.
 void generateur::prelude() {
     commence_ = true;
     file_.push_back("horloge 2001-0" + std::to_string(hasard_.entre(1, 9)) + "-15 22:00:0" +
                     std::to_string(hasard_.entre(0, 9)));
+    if (hasard_.une_fois_sur(12))
+        file_.push_back(fichier_gate());
     file_.emplace_back("demarre");
     const int chemin = hasard_.entre(0, 9);
     if (chemin == 0)
