@@ -13,7 +13,8 @@ from pathlib import Path
 from PIL import Image
 
 noms = ["altazimutal", "banc", "pilotage", "frmaltazpilot-ouvert", "frmequapilot-ouvert", "frmraquette", "frmconfig",
-        "frmequaconfig", "frmcoord", "frmaltazpointage", "frmequapointage", "frmDepl", "frmaltazsuivi", "Frmnotes"]
+        "frmequaconfig", "frmcoord", "frmaltazpointage", "frmequapointage", "frmDepl", "frmaltazsuivi", "Frmnotes", "carte-1",
+        "carte-5"]
 origine, dossier = map(Path, sys.argv[1:])
 dossier.mkdir(exist_ok=True)
 for ancienne in dossier.glob("*.png"):
@@ -27,3 +28,4 @@ for nom in noms:
     if octets >= 60 * 1024:
         sys.exit(f"{fichier}: too large for a help page")
 FIN
+cp docs/suivi/erreurs.svg aide/captures/

@@ -37,10 +37,13 @@ std::optional<plateforme::instant> lit_date(std::string_view texte) {
             return std::nullopt;
         texte.remove_prefix(1);
     }
+    // The calendar's own types keep 8 bits of these two.
+    if (lus < 5 || n[1] > 12 || n[2] > 31)
+        return std::nullopt;
     using namespace std::chrono;
     const year_month_day date{year{n[0]}, month{static_cast<unsigned>(n[1])},
                               day{static_cast<unsigned>(n[2])}};
-    if (lus < 5 || !texte.empty() || !date.ok() || n[0] > 9999 || n[3] > 23 || n[4] > 59 || n[5] > 59)
+    if (!texte.empty() || !date.ok() || n[0] > 9999 || n[3] > 23 || n[4] > 59 || n[5] > 59)
         return std::nullopt;
     return plateforme::instant{n[0], n[1], n[2], n[3], n[4], n[5], n[6]};
 }

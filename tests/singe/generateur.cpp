@@ -1,8 +1,11 @@
 #include "generateur.h"
 
 #include "base/nombre.h"
+#include "platform/plateforme.h"
 #include "shell/programme.h"
 
+#include <algorithm>
+#include <filesystem>
 #include <vector>
 
 namespace singe {
@@ -64,6 +67,7 @@ int poids(const shell::controle& c) {
     case genre::surface:
         return 16;
     case genre::texte:
+    case genre::deroulante:
         return 3;
     default:
         return 6;
@@ -138,7 +142,9 @@ std::string generateur::acte_sur(const shell::controle& c) {
     case genre::liste:
     case genre::deroulante: {
         const auto derniere = static_cast<int>(c.regarde_lignes().size()) - 1;
-        const int k = derniere >= 0 && !hasard_.une_fois_sur(12) ? hasard_.entre(0, derniere) : -1;
+        if (derniere < 0 && !hasard_.une_fois_sur(40))
+            return {};
+        const int k = derniere >= 0 && !hasard_.une_fois_sur(60) ? hasard_.entre(0, derniere) : -1;
         if (c.espece() == genre::deroulante)
             return k < 0 ? std::string{} : avec("choisit", k);
         static constexpr const char* mots[] = {"choisit", "double", "double", "droit"};
@@ -218,8 +224,8 @@ std::string generateur::acte() {
 // Every motion must have what ends it: the stops on screen, that of the slew to come, and the paddle
 // released.
 void generateur::arrets() {
-    const auto quand = duree(0.01, 400);
-    const auto apres = duree(500, 2000);
+    const auto quand = duree(0.01, 2000);
+    const auto apres = duree(500, 4000);
     for (const auto* p : programme::registre().panneaux)
         for (const auto* c : p->controles())
             if (c->a(shell::arret) &&
@@ -247,11 +253,26 @@ void generateur::acte_et_ordres() {
     file_.push_back(a);
 }
 
+// A settings file with other values than those delivered, perhaps too few.
+std::string generateur::fichier_gate() {
+    std::vector<std::string> noms;
+    for (const auto& f : std::filesystem::directory_iterator{plateforme::courante.donnees})
+        if (f.path().extension() == ".ini")
+            noms.push_back(f.path().filename().string());
+    std::sort(noms.begin(), noms.end());
+    auto ligne = "fichier " + hasard_.parmi(noms) + " " + texte(false);
+    for (int n = hasard_.entre(0, 12); n > 0; --n)
+        ligne += "|" + texte(false);
+    return ligne;
+}
+
 // The usual ways into the work, so that most runs get to motions.
 void generateur::prelude() {
     commence_ = true;
     file_.push_back("horloge 2001-0" + std::to_string(hasard_.entre(1, 9)) + "-15 22:00:0" +
                     std::to_string(hasard_.entre(0, 9)));
+    if (hasard_.une_fois_sur(12))
+        file_.push_back(fichier_gate());
     file_.emplace_back("demarre");
     const int chemin = hasard_.entre(0, 9);
     if (chemin == 0)

@@ -30,6 +30,7 @@ class generateur {
     std::string acte_sur(const shell::controle& c);
     std::string acte_sur_panneau();
     std::string decor();
+    std::string fichier_gate();
     std::string texte(bool plusieurs_lignes);
     std::string duree(double bas_ms, double haut_ms);
     std::string touche_raquette();

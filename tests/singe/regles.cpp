@@ -3,6 +3,7 @@
 #include "drive/etat_moteur.h"
 #include "piloting/frmaltazpilot_champs.h"
 #include "piloting/frmequapilot_champs.h"
+#include "platform/plateforme.h"
 #include "tracking/frmaltazsuivi_champs.h"
 
 #include <algorithm>
@@ -99,6 +100,14 @@ std::string regles::ecriture(int adresse, std::uint8_t valeur) {
     if (!peut_ecrire_ && !prise)
         return "écriture par un acte qui n'est pas un mouvement, " + quoi + ", " + ligne_;
     return {};
+}
+
+bool regles::rafale_d_un_jour() const {
+    using namespace cmd_moteur;
+    constexpr double jour_ns = 86'400e9;
+    const auto tempo = std::max(tempoaz, tempoalt).reel() * plateforme::ns_par_compte_entier;
+    const auto suivi = tempopas.reel() * plateforme::ns_par_compte;
+    return (rafales_ && 2 * entier16::maximum * tempo > jour_ns) || 2 * nbpassuivi.reel() * suivi > jour_ns;
 }
 
 // Settings saved from emptied fields can be cut short of a number, never of a value; only the almanac's years

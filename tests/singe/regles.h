@@ -17,6 +17,9 @@ class regles {
     std::string ecriture(int adresse, std::uint8_t valeur);
     /// Empty, or what is wrong with an end by this failure. `explication` names cause and detail.
     std::string echec(const std::string& explication) const;
+    /// Whether a motion of more than a day may be under way: a burst, which nothing stops, with a typed
+    /// delay.
+    bool rafale_d_un_jour() const;
 
   private:
     bool sens_permis(unsigned valeur);

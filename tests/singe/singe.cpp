@@ -86,26 +86,33 @@ int main(int argc, char** argv) {
     const auto graine = std::strtoull(argv[1], nullptr, 10);
     const int actes = std::atoi(argv[2]);
     const int departs = argc == 4 ? std::atoi(argv[3]) : 1;
-    std::map<std::string, int> fins;
+    std::map<std::string, std::pair<int, std::uint64_t>> fins; // how often, and the first start value
     std::map<std::string, int> fautes;
     std::uint64_t lignes = 0;
-    std::uint64_t ecritures = 0;
+    std::array<std::uint64_t, 256> ecritures{};
     if (departs == 0)
         montre(depart(graine, actes));
     for (int n = 0; n < departs; ++n) {
         const auto g = graine + static_cast<std::uint64_t>(n);
         const auto v = depart(g, actes);
         lignes += v.lignes.size();
-        ecritures += v.ecritures;
-        ++fins[v.fin];
+        for (std::size_t i = 0; i < ecritures.size(); ++i)
+            ecritures[i] += v.ecritures[i];
+        auto& fin = fins[v.fin.substr(0, v.fin.find(" : ", 4))];
+        if (fin.first++ == 0)
+            fin.second = g;
         if (v.faute.empty() || ++fautes[v.faute] > 1)
             continue; // the same fault is told once
         std::cout << "# graine " << g << " : " << v.lignes.size() << " lignes : " << v.faute << std::endl;
         montre(reduit(v));
     }
-    std::cout << "départs " << departs << ", lignes " << lignes << ", écritures " << ecritures << '\n';
+    std::cout << "départs " << departs << ", lignes " << lignes << "\nécritures sur 888 :";
+    for (std::size_t i = 0; i < ecritures.size(); ++i)
+        if (ecritures[i] > 0)
+            std::cout << ' ' << i << " x " << ecritures[i];
+    std::cout << '\n';
     for (const auto& [fin, n] : fins)
-        std::cout << "  " << n << " x fin " << fin << '\n';
+        std::cout << "  " << n.first << " x fin " << fin << " (graine " << n.second << ")\n";
     for (const auto& [faute, n] : fautes)
         std::cout << "  " << n << " x FAUTE " << faute << '\n';
     return fautes.empty() ? 0 : 1;

@@ -34,6 +34,7 @@ struct bilan {
     char faute[4096];
     char fin[4096];
     std::uint64_t ecritures;
+    std::array<std::uint64_t, 256> par_valeur;
     bool fini;
 };
 
@@ -65,6 +66,8 @@ class port_espion final : public plateforme::port {
     void ecrit(int adresse, std::uint8_t valeur) override {
         juge(r->ecriture(adresse, valeur));
         port_.ecrit(adresse, valeur);
+        if (adresse == plateforme::registre_donnees)
+            ++b->par_valeur[valeur];
         if (++b->ecritures >= ecritures_maximum)
             throw plateforme::fin_du_scenario{};
     }
@@ -179,7 +182,7 @@ void chien_de_garde(int) {
     note(b->fin, std::to_string(statut) + (dit.empty() ? "" : " : " + dit));
     if (statut == 3)
         juge(les_regles.echec(dit));
-    else if (statut != 0)
+    else if (statut != 0 && !(dit.starts_with("un mouvement continue") && les_regles.rafale_d_un_jour()))
         juge("statut " + std::to_string(statut) + " : " + dit);
     termine();
 }
@@ -207,6 +210,7 @@ verdict joue_sous_surveillance(const source& lignes, const fs::path& donnees) {
     b = partage;
     b->longueur = 0;
     b->ecritures = 0;
+    b->par_valeur.fill(0);
     b->faute[0] = b->fin[0] = 0;
     b->fini = false;
     std::string dossier = (fs::temp_directory_path() / "singe-XXXXXX").string();
@@ -223,7 +227,7 @@ verdict joue_sous_surveillance(const source& lignes, const fs::path& donnees) {
     if (enfant < 0 || waitpid(enfant, &etat, 0) != enfant)
         std::abort();
     fs::remove_all(dossier);
-    verdict v{b->faute, b->fin, contenu(erreurs), {}, b->ecritures};
+    verdict v{b->faute, b->fin, contenu(erreurs), {}, b->par_valeur};
     close(erreurs);
     if (!b->fini)
         v.faute = sans_bilan(etat);

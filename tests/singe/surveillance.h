@@ -1,6 +1,7 @@
 // One scenario played under watch, in a process of its own.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -22,7 +23,7 @@ struct verdict {
     std::string fin;   ///< how the run ended: its status, or what a failure named
     std::string trace; ///< what went to standard error
     std::vector<std::string> lignes;
-    std::uint64_t ecritures = 0;
+    std::array<std::uint64_t, 256> ecritures{}; ///< on the data register, by value
 };
 
 /// Plays the lines to their end and judges the run. The child process has a temporary folder of its own.

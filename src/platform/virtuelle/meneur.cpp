@@ -9,6 +9,7 @@
 #include "platform/virtuelle/valeur_montree.h"
 #include "shell/programme.h"
 
+#include <algorithm>
 #include <istream>
 #include <optional>
 #include <ostream>
@@ -38,6 +39,12 @@ instant date_et_heure(const std::string& s) {
         return *i;
     throw ligne_incomprise{"une date et une heure étaient attendues (2001-08-15 22:00:00.000) : \"" + s +
                            "\""};
+}
+
+// Whether a data file's name stays inside the data folder: a scenario changes its private copy and nothing
+// else.
+bool dans_le_dossier(const fs::path& nom) {
+    return !nom.empty() && nom.is_relative() && std::find(nom.begin(), nom.end(), "..") == nom.end();
 }
 
 } // namespace
@@ -172,6 +179,8 @@ void meneur::planifie(const std::string& reste) {
 
 void meneur::ecrit_fichier(const std::string& reste) {
     const auto [nom, contenu] = premier_mot(reste);
+    if (!dans_le_dossier(nom))
+        throw ligne_incomprise{"un fichier du dossier de données était attendu : \"" + nom + "\""};
     const auto chemin = courante.donnees / nom;
     std::error_code erreur;
     if (contenu == "-") {

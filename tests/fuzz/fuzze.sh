@@ -1,0 +1,29 @@
+#!/usr/bin/env bash
+# tests/fuzz/fuzze.sh [SECONDES]: builds the libFuzzer programs (Clang, build/fuzz) and runs each for so long
+# (default 600), from the committed corpus and the delivered data. What breaks a reader is left in build/fuzz/trouve.
+set -euo pipefail
+cd "$(dirname "$0")/../.."
+secondes=${1:-600}
+cmake -S . -B build/fuzz -G Ninja -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=Debug '-DCMAKE_CXX_FLAGS_DEBUG=-O1 -g1' \
+    -DVELMORIA_SANITIZERS=address,undefined -DVELMORIA_FUZZ=ON >/dev/null
+cibles=(reglages notes almanach catalogues liste image date scenario)
+cmake --build build/fuzz -j2 --target "${cibles[@]/#/fuzz_}"
+mkdir -p build/fuzz/trouve
+for cible in "${cibles[@]}"; do
+    depart=build/fuzz/depart/$cible
+    mkdir -p "$depart" "build/fuzz/corpus/$cible"
+    case $cible in
+    reglages) for f in data/*.ini; do { printf '%s' 001234567; cat "$f"; } >"$depart/${f##*/}"; done ;;
+    notes) cp data/notes.txt "$depart" ;;
+    almanach) cp data/date/2001/janvier/sg0.txt "$depart" ;;
+    catalogues) for f in data/*.cat; do head -n 30 "$f" >"$depart/${f##*/}"; done ;;
+    liste) cp data/img/liste.txt "$depart" ;;
+    image) find data -name '*.gif' -o -name '*.jpg' | while read -r f; do head -c 1000 "$f" >"$depart/${f##*/}"; done ;;
+    date) printf '2001-08-15 22:00:00.500' >"$depart/date" ;;
+    scenario) cp tests/scenarios/*.scn "$depart" ;;
+    esac
+    echo "== $cible"
+    "build/fuzz/tests/fuzz/fuzz_$cible" -max_total_time="$secondes" -max_len=4096 -timeout=20 -rss_limit_mb=4096 \
+        -print_final_stats=1 -verbosity=0 "-artifact_prefix=build/fuzz/trouve/$cible-" \
+        "build/fuzz/corpus/$cible" "tests/fuzz/corpus/$cible" "$depart"
+done
