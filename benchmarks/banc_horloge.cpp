@@ -1,5 +1,6 @@
 // The clock's tick, the conversion and the catalogue lists on the live windows, and what the program costs
 // while it stands idle in alt-azimuth mode. Needs a display; run it on the xcb platform.
+#include "bench/composition.h"
 #include "bench/fenetre_banc.h"
 #include "platform/linux/attente_precise.h"
 #include "platform/linux/horloge_systeme.h"
@@ -175,17 +176,9 @@ int main(int argc, char** argv) {
                                [] { return int{general::decalageheure.valeur()}; }};
     plateforme::attente_precise attente;
     banc::etabli etabli{plateforme::horloge_monotone};
-    plateforme::qt::seance s{argc,
-                             argv,
-                             {.port = etabli.port(),
-                              .horloge = horloge,
-                              .attente =
-                                  [&](std::int64_t ns) {
-                                      etabli.commence_attente(ns);
-                                      attente.attend(ns);
-                                  },
-                              .apres_cession = [&etabli] { etabli.cession_finie(); },
-                              .donnees = DONNEES}};
+    auto composition = banc::sur_le_banc(etabli, horloge, attente);
+    composition.donnees = DONNEES;
+    plateforme::qt::seance s{argc, argv, std::move(composition)};
     s.demarre();
     banc::fenetre_banc fenetre{etabli, horloge};
     fenetre.show();

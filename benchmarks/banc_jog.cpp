@@ -1,5 +1,6 @@
 // How fast a motor can be driven through the live windows, and how near a slow jog comes to its nominal
 // period. Needs a display; run it on the xcb platform.
+#include "bench/composition.h"
 #include "bench/fenetre_banc.h"
 #include "drive/cmd_moteur.h"
 #include "drive/raquette.h"
@@ -185,17 +186,9 @@ int main(int argc, char** argv) {
     plateforme::attente_precise attente;
     banc::etabli etabli{plateforme::horloge_monotone};
     auto& port = etabli.port();
-    plateforme::qt::seance s{argc,
-                             argv,
-                             {.port = port,
-                              .horloge = horloge,
-                              .attente =
-                                  [&](std::int64_t ns) {
-                                      etabli.commence_attente(ns);
-                                      attente.attend(ns);
-                                  },
-                              .apres_cession = [&etabli] { etabli.cession_finie(); },
-                              .donnees = DONNEES}};
+    auto composition = banc::sur_le_banc(etabli, horloge, attente);
+    composition.donnees = DONNEES;
+    plateforme::qt::seance s{argc, argv, std::move(composition)};
     base::installe_gestionnaire(
         nullptr); // a failure is printed and ends the run, where nobody could close a box
     s.demarre();

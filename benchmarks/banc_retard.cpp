@@ -1,5 +1,6 @@
 // Tracking on the bench while other processes keep every core busy: how many ticks are missed, how late a
 // half-pulse can be. Needs a display. banc_retard [SECONDS [PROCESSES]]
+#include "bench/composition.h"
 #include "bench/fenetre_banc.h"
 #include "drive/cmd_moteur.h"
 #include "platform/linux/attente_precise.h"
@@ -88,17 +89,9 @@ int main(int argc, char** argv) {
     horloge.regle({2000, 8, 15, 23, 0, 0, 0});
     plateforme::attente_precise attente;
     banc::etabli etabli{plateforme::horloge_monotone};
-    plateforme::qt::seance s{argc,
-                             argv,
-                             {.port = etabli.port(),
-                              .horloge = horloge,
-                              .attente =
-                                  [&](std::int64_t ns) {
-                                      etabli.commence_attente(ns);
-                                      attente.attend(ns);
-                                  },
-                              .apres_cession = [&etabli] { etabli.cession_finie(); },
-                              .donnees = DONNEES}};
+    auto composition = banc::sur_le_banc(etabli, horloge, attente);
+    composition.donnees = DONNEES;
+    plateforme::qt::seance s{argc, argv, std::move(composition)};
     base::installe_gestionnaire(
         nullptr); // a failure is printed and ends the run, where nobody could close a box
     s.demarre();

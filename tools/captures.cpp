@@ -1,5 +1,6 @@
 // Screenshots of every window, for the README, the help pages and whoever changes a panel:
 // velmoria-captures DATA FOLDER. Plays on the bench, with a private copy of the data.
+#include "bench/composition.h"
 #include "bench/fenetre_banc.h"
 #include "chart/etat_carte.h"
 #include "chart/frmCercle_champs.h"
@@ -137,18 +138,9 @@ int main(int argc, char** argv) {
     horloge.regle({2000, 8, 15, 22, 30, 12, 0});
     plateforme::attente_precise attente;
     banc::etabli etabli{plateforme::horloge_monotone};
-    plateforme::qt::seance seance{argc,
-                                  argv,
-                                  {.port = etabli.port(),
-                                   .horloge = horloge,
-                                   .attente =
-                                       [&](std::int64_t ns) {
-                                           etabli.commence_attente(ns);
-                                           attente.attend(ns);
-                                       },
-                                   .apres_cession = [&etabli] { etabli.cession_finie(); },
-                                   .icone = "velmoria-banc",
-                                   .donnees = donnees}};
+    auto composition = banc::sur_le_banc(etabli, horloge, attente);
+    composition.donnees = donnees;
+    plateforme::qt::seance seance{argc, argv, std::move(composition)};
     // What the help and about panels show must not tell on which machine the pictures were made.
     plateforme::courante.aide = "/home/observateur/velmoria/aide";
     seance.demarre();

@@ -1,11 +1,7 @@
-#include "drive/etat_moteur.h"
 #include "echec.h"
 #include "machine_essai.h"
 #include "settings/etat_suivi.h"
 #include "settings/frmconfig_champs.h"
-#include "settings/frmequaconfig_champs.h"
-#include "shell/frmcoord_champs.h"
-#include "shell/frminterface_champs.h"
 #include "sky/position.h"
 #include "tracking/frmaltazsuivi_champs.h"
 
@@ -44,50 +40,6 @@ TEST(frmconfig, fichiers_fautifs) {
     attend_echec(cause::division_par_zero, [] { frmconfig::fiche.charge(); });
 }
 
-// Its button and its close box hide it: what was typed stays, saved or not.
-TEST(frmconfig, enregistre_et_cache) {
-    const machine_essai m;
-    frmconfig::fiche.montre();
-    frmconfig::txtlatdeg.saisit("45 degrés");
-    frmconfig::txtlatmin.saisit("");
-    frmconfig::txtRaz.saisit("1000");
-    for (const auto ferme : {+[] { frmconfig::cmdfermer.clic(); }, +[] { frmconfig::fiche.ferme(); }}) {
-        frmconfig::fiche.montre();
-        ferme();
-        EXPECT_FALSE(frmconfig::fiche.est_visible());
-        EXPECT_TRUE(frmconfig::fiche.est_charge());
-        EXPECT_EQ(frmconfig::txtlatdeg.lit(), "45 degrés");
-    }
-    EXPECT_EQ(m.fichier("config_altaz.ini"), "6\r\n27\r\n48\r\n10\r\n200\r\n200\r\n500\r\n500\r\n");
-    EXPECT_NEAR(general::angpasaz, 6.48, 1e-12) << "computed at load and save only";
-    frmconfig::cmdvalid.clic();
-    EXPECT_EQ(m.fichier("config_altaz.ini"), "6\r\n27\r\n45 degrés\r\n\r\n200\r\n200\r\n500\r\n1000\r\n");
-    EXPECT_NEAR(general::angpasaz, 3.24, 1e-12);
-    EXPECT_NEAR(frmconfig::txtapas.nombre(), 3.24, 1e-12);
-    EXPECT_NEAR(general::angpasalt, 6.48, 1e-12);
-}
-
-TEST(frmconfig, position_de_depart) {
-    const machine_essai m;
-    cmd_moteur::azmoins = 0;
-    frmconfig::txtaltplus.ecrit("2.5");
-    for (int i = 0; i < 2; ++i) {
-        frmconfig::cmdinitcoord.clic();
-        EXPECT_EQ(general::posaz, 648000);
-        EXPECT_EQ(general::posalt, 108000);
-        EXPECT_EQ(frmcoord::txtcoordaz1.lit() + frmcoord::txtcoordaz2.lit() + frmcoord::txtcoordaz3.lit(),
-                  "18000");
-        EXPECT_EQ(frmcoord::txtcoordalt1.lit() + frmcoord::txtcoordalt2.lit() + frmcoord::txtcoordalt3.lit(),
-                  "3000");
-        EXPECT_EQ(cmd_moteur::azplus, 0);
-        EXPECT_EQ(cmd_moteur::azmoins, 8);
-        EXPECT_EQ(cmd_moteur::altplus, 2) << "ties to the even number";
-        EXPECT_EQ(cmd_moteur::altmoins, 2);
-    }
-    frmconfig::txtazplus.ecrit("32768");
-    attend_echec(cause::depassement, [] { frmconfig::cmdinitcoord.clic(); });
-}
-
 TEST(frmconfig, choix_d_un_objet) {
     const machine_essai m;
     m.fichier("ngc7.cat", "A,GL,3305,-7500\r\nB,GL,605,-300\r\nC,GL,0,6305\r\n");
@@ -124,53 +76,6 @@ TEST(frmconfig, choix_d_un_objet) {
             EXPECT_EQ(frmaltazsuivi::txtdec_deg.lit(), c.suivi_deg);
             EXPECT_EQ(frmaltazsuivi::txtdec_min.lit(), c.suivi_minarc);
         }
-}
-
-// The stars of the pointing list have the objects' limit here, and a full list shows all its names.
-TEST(frmconfig, catalogues_pleins) {
-    const machine_essai m;
-    std::string t;
-    for (int i = 1; i <= 1031; ++i)
-        t.append("N").append(std::to_string(i)).append(",And,1,2\r\n");
-    m.fichier("5magstar.cat", t);
-    frmconfig::fiche.montre();
-    frmconfig::lbCatalogue.choisit(0);
-    EXPECT_EQ(frmconfig::lbObjets.lignes(), 1031);
-    EXPECT_EQ(frmconfig::lbObjets.ligne(1030), "N1031");
-    m.fichier("ic.cat", t + "N1032,GL,1,2\r\n");
-    attend_echec(cause::indice, [] { frmconfig::lbCatalogue.choisit(2); });
-}
-
-TEST(configuration, vers_la_raquette) {
-    machine_essai m;
-    frmconfig::fiche.montre();
-    frmequaconfig::fiche.montre();
-    shell::champ_bouton* const boutons[] = {&frmconfig::cmdazencoding, &frmconfig::cmdaltencoding,
-                                            &frmconfig::cmdbacklash, &frmequaconfig::cmdbacklash};
-    for (auto* bouton : boutons) {
-        m.port.ecritures.clear();
-        frminterface::Timer.marche(false);
-        cmd_moteur::baselinepaddle = 4;
-        cmd_moteur::pasencodeaz = cmd_moteur::pasencodealt = 7;
-        bouton->clic();
-        EXPECT_EQ(m.port.ecritures, (std::vector<std::pair<int, int>>{{890, 11}, {888, 0}}));
-        EXPECT_EQ(cmd_moteur::baselinepaddle, 0);
-        EXPECT_TRUE(frminterface::Timer.marche());
-        EXPECT_EQ(cmd_moteur::pasencodeaz, bouton == &frmconfig::cmdazencoding ? 0 : 7);
-        EXPECT_EQ(cmd_moteur::pasencodealt, bouton == &frmconfig::cmdaltencoding ? 0 : 7);
-    }
-}
-
-TEST(frmequaconfig, lit_enregistre_et_ferme) {
-    const machine_essai m;
-    m.fichier("config_equa.ini", "200\r\n300\r\n400\r\n500\r\n");
-    frmequaconfig::fiche.montre();
-    EXPECT_EQ(frmequaconfig::txtpasdec.lit(), "300");
-    EXPECT_EQ(frmequaconfig::txtRad.lit(), "400");
-    frmequaconfig::txtRad.saisit("x 1");
-    frmequaconfig::bFin.clic();
-    EXPECT_FALSE(frmequaconfig::fiche.est_charge());
-    EXPECT_EQ(m.fichier("config_equa.ini"), "200\r\n300\r\nx 1\r\n500\r\n");
 }
 
 } // namespace

@@ -3,7 +3,6 @@
 #include "piloting/frmaltazpilot_champs.h"
 #include "piloting/frmequapilot_champs.h"
 #include "piloting/frmraquette_champs.h"
-#include "pointing/etat_pointage.h"
 #include "settings/frmconfig_champs.h"
 #include "settings/frmequaconfig_champs.h"
 #include "shell/frmcoord_champs.h"
@@ -24,37 +23,6 @@ void charge_tout() {
     for (auto* p : {&frmaltazpilot::fiche, &frmaltazsuivi::fiche, &frmconfig::fiche, &frmcoord::fiche,
                     &frmequapilot::fiche, &frmequaconfig::fiche})
         p->charge();
-}
-
-TEST(modes, rien_au_demarrage) {
-    machine_essai m;
-    programme::demarre();
-    EXPECT_TRUE(m.port.ecritures.empty());
-    EXPECT_FALSE(heuretimer.marche() || Timer.marche());
-    EXPECT_FALSE(frmcoord::fiche.est_charge());
-}
-
-TEST(modes, altazimutal_par_la_barre_et_par_le_menu) {
-    for (const bool menu : {false, true}) {
-        machine_essai m;
-        programme::demarre();
-        frmequapilot::fiche.charge();
-        frmequaconfig::fiche.charge();
-        m.port.ecritures.clear();
-        pointing::panneaualtaz = false;
-        if (menu)
-            altazimutal.clic();
-        else
-            barchoix_boutons(2).clic();
-        EXPECT_TRUE(frmcoord::fiche.est_visible());
-        EXPECT_TRUE(heuretimer.marche());
-        EXPECT_TRUE(baraltaz.visible());
-        EXPECT_EQ(barchoix.visible(), menu);
-        EXPECT_EQ(pointing::panneaualtaz, !menu);
-        EXPECT_FALSE(frmequapilot::fiche.est_charge());
-        EXPECT_FALSE(frmequaconfig::fiche.est_charge());
-        EXPECT_TRUE(m.port.ecritures.empty());
-    }
 }
 
 TEST(modes, equatorial_arrete_l_horloge) {
@@ -94,35 +62,6 @@ TEST(modes, raquette) {
         (general ? bargeneral_boutons(1) : baraltaz_boutons(1)).clic();
         EXPECT_FALSE(frmraquette::fiche.est_charge() || Timer.marche());
     }
-}
-
-TEST(modes, coordonnees_cachees_et_montrees) {
-    machine_essai m;
-    programme::demarre();
-    barchoix_boutons(2).clic();
-    frmcoord::txtcoordaz1.ecrit("12");
-    baraltaz_boutons(7).clic();
-    EXPECT_FALSE(frmcoord::fiche.est_visible());
-    EXPECT_EQ(coordvisible, false);
-    EXPECT_TRUE(heuretimer.marche());
-    baraltaz_boutons(7).clic();
-    EXPECT_TRUE(frmcoord::fiche.est_visible());
-    EXPECT_EQ(coordvisible, true);
-    EXPECT_EQ(frmcoord::txtcoordaz1.lit(), "12");
-}
-
-TEST(modes, suivi_au_menu_apres_les_parametres) {
-    machine_essai m;
-    programme::demarre();
-    barchoix_boutons(2).clic();
-    baraltaz_boutons(6).clic();
-    EXPECT_TRUE(frmconfig::fiche.est_visible());
-    EXPECT_FALSE(mnusuivi.actif());
-    frmconfig::fiche.ferme();
-    mnuparaaltaz.clic();
-    EXPECT_TRUE(frmconfig::fiche.est_visible());
-    EXPECT_TRUE(mnusuivi.actif());
-    EXPECT_EQ(m.port.ecritures.size(), 0u);
 }
 
 } // namespace
