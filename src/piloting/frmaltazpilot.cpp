@@ -27,9 +27,7 @@ const piloting::pilote pilote{
     .jauge_az = txtv_az,
     .jauge_alt = txtv_alt,
     .jauge_az_0 = "I",
-    .barres = {&HScroll1, &HScroll2, &HScroll3, &HScroll4, &HScroll5, &HScroll6, &HScroll7, &HScroll8,
-               &HScroll9, &HScroll10},
-    .champs = {&tAZ(0), &tAZ(1), &tAZ(2), &tAZ(3), &tAZ(4), &tAlt(0), &tAlt(1), &tAlt(2), &tAlt(3), &tAlt(4)},
+    .reglage = reglage,
     .table = cmd_moteur::vitessealtaz,
     .fichier = "vitessealtaz.ini",
 };

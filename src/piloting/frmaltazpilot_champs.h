@@ -1,6 +1,7 @@
 // The pilot panel of the alt-azimuth mount, as designed.
 #pragma once
 
+#include "piloting/reglage_champs.h"
 #include "shell/controles.h"
 
 namespace frmaltazpilot {
@@ -47,45 +48,15 @@ inline constinit champ_bouton Cmdquit{fiche, "Cmdquit", {90, 3510, 1500, 450}, {
 inline constinit champ_etiquette lblvit{
     fiche, "lblvit", {4680, 3510, 600, 450}, {.legende = "8", .traits = symbole | centre}};
 
-inline constinit champ_etiquette Label1{
-    fiche, "Label1", {5490, 60, 4500, 300}, {.legende = "Ajustement des vitesses", .traits = gras}};
-inline constinit champ_etiquette Label3{
-    fiche, "Label3", {5490, 435, 2190, 285}, {.legende = "Vitesses Azimut"}};
-inline constinit champ_etiquette Label2{
-    fiche, "Label2", {7800, 435, 2190, 285}, {.legende = "Vitesses Altitude"}};
-
-inline constexpr dessin vitesse{.max = 32767, .grand = 100};
-inline constinit champ_barre HScroll1{fiche, "HScroll1", {5490, 810, 1290, 300}, vitesse};
-inline constinit champ_barre HScroll2{fiche, "HScroll2", {5490, 1290, 1290, 300}, vitesse};
-inline constinit champ_barre HScroll3{fiche, "HScroll3", {5490, 1770, 1290, 300}, vitesse};
-inline constinit champ_barre HScroll4{fiche, "HScroll4", {5490, 2250, 1290, 300}, vitesse};
-inline constinit champ_barre HScroll5{fiche, "HScroll5", {5490, 2730, 1290, 300}, vitesse};
-inline constinit tableau<champ_texte, 5> tAZ{fiche,
-                                             "tAZ",
-                                             {{6840, 780, 840, 375},
-                                              {6840, 1260, 840, 375},
-                                              {6840, 1740, 840, 375},
-                                              {6840, 2220, 840, 375},
-                                              {6840, 2700, 840, 375}}};
-inline constinit champ_barre HScroll6{fiche, "HScroll6", {7800, 810, 1290, 300}, vitesse};
-inline constinit champ_barre HScroll7{fiche, "HScroll7", {7800, 1290, 1290, 300}, vitesse};
-inline constinit champ_barre HScroll8{fiche, "HScroll8", {7800, 1770, 1290, 300}, vitesse};
-inline constinit champ_barre HScroll9{fiche, "HScroll9", {7800, 2250, 1290, 300}, vitesse};
-inline constinit champ_barre HScroll10{fiche, "HScroll10", {7800, 2730, 1290, 300}, vitesse};
-inline constinit tableau<champ_texte, 5> tAlt{fiche,
-                                              "tAlt",
-                                              {{9150, 780, 840, 375},
-                                               {9150, 1260, 840, 375},
-                                               {9150, 1740, 840, 375},
-                                               {9150, 2220, 840, 375},
-                                               {9150, 2700, 840, 375}}};
+inline constinit piloting::champs_reglage reglage{fiche,
+                                                  5490,
+                                                  {"Vitesses Azimut", "tAZ", piloting::barres_1_a_5},
+                                                  {"Vitesses Altitude", "tAlt", piloting::barres_6_a_10}};
 inline constinit champ_bouton cmdvalid{fiche, "cmdvalid", {8790, 3510, 1200, 450}, {.legende = "Ok"}};
 
 inline std::vector<controle*> controles() {
     return liste(Frdeplacement, cmdhh, cmdag, cmddstop, cmdad, cmdhb, Fraz, slaz, txtnumaz, txtv_az, Fralt,
-                 slalt, txtnumalt, txtv_alt, Cmdquit, lblvit, Label1, Label3, Label2, HScroll1, HScroll2,
-                 HScroll3, HScroll4, HScroll5, tAZ, HScroll6, HScroll7, HScroll8, HScroll9, HScroll10, tAlt,
-                 cmdvalid);
+                 slalt, txtnumalt, txtv_alt, Cmdquit, lblvit, reglage, cmdvalid);
 }
 
 } // namespace frmaltazpilot

@@ -28,9 +28,7 @@ const piloting::pilote pilote{
     .jauge_az = txtv_az,
     .jauge_alt = txtv_alt,
     .jauge_az_0 = "Sid.",
-    .barres = {&HScroll1, &HScroll2, &HScroll3, &HScroll4, &HScroll5, &HScroll6, &HScroll7, &HScroll8,
-               &HScroll9, &HScroll10},
-    .champs = {&tAD(0), &tAD(1), &tAD(2), &tAD(3), &tAD(4), &tDc(0), &tDc(1), &tDc(2), &tDc(3), &tDc(4)},
+    .reglage = reglage,
     .table = cmd_moteur::vitesseequa,
     .fichier = "vitesseequa.ini",
 };

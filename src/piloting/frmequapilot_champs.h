@@ -1,6 +1,7 @@
 // The pilot panel of the equatorial mount, as designed, with the group of its sidereal drive.
 #pragma once
 
+#include "piloting/reglage_champs.h"
 #include "shell/controles.h"
 
 namespace frmequapilot {
@@ -63,45 +64,16 @@ inline constinit champ_bouton Cmdquit{fiche, "Cmdquit", {90, 3840, 1500, 420}, {
 inline constinit champ_etiquette lblvit{
     fiche, "lblvit", {5175, 3840, 600, 420}, {.legende = "8", .traits = symbole | centre}};
 
-inline constinit champ_etiquette Label1{
-    fiche, "Label1", {5970, 60, 4500, 300}, {.legende = "Ajustement des vitesses", .traits = gras}};
-inline constinit champ_etiquette Label3{fiche, "Label3", {5970, 435, 2190, 285}, {.legende = "Vitesses A.D"}};
-inline constinit champ_etiquette Label2{
-    fiche, "Label2", {8280, 435, 2190, 285}, {.legende = "Vitesses Déc."}};
-
-inline constexpr dessin vitesse{.max = 32767, .grand = 100};
-inline constinit champ_barre HScroll1{fiche, "HScroll1", {5970, 810, 1290, 300}, vitesse};
-inline constinit champ_barre HScroll2{fiche, "HScroll2", {5970, 1290, 1290, 300}, vitesse};
-inline constinit champ_barre HScroll3{fiche, "HScroll3", {5970, 1770, 1290, 300}, vitesse};
-inline constinit champ_barre HScroll4{fiche, "HScroll4", {5970, 2250, 1290, 300}, vitesse};
-inline constinit champ_barre HScroll5{fiche, "HScroll5", {5970, 2730, 1290, 300}, vitesse};
-inline constinit tableau<champ_texte, 5> tAD{fiche,
-                                             "tAD",
-                                             {{7320, 780, 840, 375},
-                                              {7320, 1260, 840, 375},
-                                              {7320, 1740, 840, 375},
-                                              {7320, 2220, 840, 375},
-                                              {7320, 2700, 840, 375}}};
-inline constinit champ_barre HScroll6{fiche, "HScroll6", {8280, 810, 1290, 300}, vitesse};
-inline constinit champ_barre HScroll7{fiche, "HScroll7", {8280, 1290, 1290, 300}, vitesse};
-inline constinit champ_barre HScroll8{fiche, "HScroll8", {8280, 1770, 1290, 300}, vitesse};
-inline constinit champ_barre HScroll9{fiche, "HScroll9", {8280, 2250, 1290, 300}, vitesse};
-inline constinit champ_barre HScroll10{fiche, "HScroll10", {8280, 2730, 1290, 300}, vitesse};
-inline constinit tableau<champ_texte, 5> tDc{fiche,
-                                             "tDc",
-                                             {{9630, 780, 840, 375},
-                                              {9630, 1260, 840, 375},
-                                              {9630, 1740, 840, 375},
-                                              {9630, 2220, 840, 375},
-                                              {9630, 2700, 840, 375}}};
+inline constinit piloting::champs_reglage reglage{fiche,
+                                                  5970,
+                                                  {"Vitesses A.D", "tAD", piloting::barres_1_a_5},
+                                                  {"Vitesses Déc.", "tDc", piloting::barres_6_a_10}};
 inline constinit champ_bouton cmdvalid{fiche, "cmdvalid", {9270, 3840, 1200, 420}, {.legende = "Ok"}};
 
 inline std::vector<controle*> controles() {
     return liste(Frdeplacement, cmdhh, cmdag, cmddstop, cmdad, cmdhb, Frame2, Label5, slaz, txtnumaz, txtv_az,
                  Label6, slalt, txtnumalt, txtv_alt, Frame1, cmdgo, cmdstopgo, Label4, txtpas, txtpas1,
-                 txtessai, txts, timersuivi, Cmdquit, lblvit, Label1, Label3, Label2, HScroll1, HScroll2,
-                 HScroll3, HScroll4, HScroll5, tAD, HScroll6, HScroll7, HScroll8, HScroll9, HScroll10, tDc,
-                 cmdvalid);
+                 txtessai, txts, timersuivi, Cmdquit, lblvit, reglage, cmdvalid);
 }
 
 } // namespace frmequapilot

@@ -20,10 +20,10 @@ void charge(const pilote& p) {
     p.numero_az.ecrit("4");
     p.numero_alt.ecrit("4");
     cmdsens = 0;
-    for (std::size_t i = 0; i < p.champs.size(); ++i)
-        p.champs[i]->ecrit(p.table[i].reel() / comptes_par_unite);
-    for (std::size_t i = 0; i < p.champs.size(); ++i)
-        p.barres[i]->place(entier32{p.champs[i]->nombre()});
+    for (std::size_t i = 0; i < p.table.size(); ++i)
+        p.reglage.champ(i).ecrit(p.table[i].reel() / comptes_par_unite);
+    for (std::size_t i = 0; i < p.table.size(); ++i)
+        p.reglage.barre(i).place(entier32{p.reglage.champ(i).nombre()});
     plateforme::Out32(plateforme::registre_controle, 1);
 }
 
@@ -66,8 +66,8 @@ void bascule_section(const pilote& p) {
 // A field that reads as 0 keeps the count that stands in the table.
 void enregistre(const pilote& p) {
     valeurs::ecrivain f;
-    for (std::size_t i = 0; i < p.champs.size(); ++i) {
-        const double v = p.champs[i]->nombre() * comptes_par_unite;
+    for (std::size_t i = 0; i < p.table.size(); ++i) {
+        const double v = p.reglage.champ(i).nombre() * comptes_par_unite;
         if (v != 0) {
             p.table[i] = entier32{v};
             f.nombre(v);
@@ -90,8 +90,8 @@ void branche(const pilote& p) {
         [&p] { change_classe(p.classe_az, classevitaz, p.jauge_az, p.numero_az, p.jauge_az_0); });
     p.classe_alt.au_changement(
         [&p] { change_classe(p.classe_alt, classevitalt, p.jauge_alt, p.numero_alt, jauges[0]); });
-    for (std::size_t i = 0; i < p.barres.size(); ++i)
-        p.barres[i]->au_changement([&p, i] { p.champs[i]->ecrit(p.barres[i]->valeur()); });
+    for (std::size_t i = 0; i < p.table.size(); ++i)
+        p.reglage.barre(i).au_changement([&p, i] { p.reglage.champ(i).ecrit(p.reglage.barre(i).valeur()); });
     p.section.au_clic([&p] { bascule_section(p); });
     p.valide.au_clic([&p] { enregistre(p); });
     p.quitte.au_clic([&p] {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "drive/etat_moteur.h"
+#include "piloting/reglage_champs.h"
 #include "shell/controles.h"
 
 #include <array>
@@ -35,10 +36,9 @@ struct pilote {
     shell::champ_texte& numero_alt;
     shell::champ_texte& jauge_az;
     shell::champ_texte& jauge_alt;
-    const char* jauge_az_0;                     ///< bar of the first axis at class 0
-    std::array<shell::champ_barre*, 10> barres; ///< the classes of the first axis, then of the second
-    std::array<shell::champ_texte*, 10> champs; ///< likewise
-    std::array<cmd_moteur::entier32, 10>& table;
+    const char* jauge_az_0; ///< bar of the first axis at class 0
+    champs_reglage& reglage;
+    std::array<cmd_moteur::entier32, 10>& table; ///< delay counts, in the order of the section's classes
     const char* fichier;
 };
 

@@ -146,8 +146,8 @@ TEST_F(pilotage, a_slider_changes_the_speed_of_a_running_jog) {
 TEST_F(pilotage, the_store_and_the_widgets_agree_without_echo) {
     auto* champ = static_cast<QLineEdit*>(bouton("tAZ(0)"));
     auto* barre = static_cast<QScrollBar*>(bouton("HScroll1"));
-    frmaltazpilot::tAZ(0).ecrit("24.68");
-    frmaltazpilot::HScroll1.place(25);
+    frmaltazpilot::reglage.champ(0).ecrit("24.68");
+    frmaltazpilot::reglage.barre(0).place(25);
     EXPECT_EQ(barre->value(), 25);
     EXPECT_EQ(champ->text(), "24.68");
     QTest::mouseClick(bouton("lblvit"), Qt::LeftButton);
@@ -157,7 +157,7 @@ TEST_F(pilotage, the_store_and_the_widgets_agree_without_echo) {
     champ->selectAll();
     QTest::keyClicks(champ, "12,");
     QTest::sendKeyEvent(QTest::Click, champ, Qt::Key_Eacute, QString{"é"}, Qt::NoModifier);
-    EXPECT_EQ(frmaltazpilot::tAZ(0).lit(), "12,é");
+    EXPECT_EQ(frmaltazpilot::reglage.champ(0).lit(), "12,é");
     EXPECT_EQ(barre->value(), 26);
 }
 
