@@ -128,7 +128,7 @@ bool a_photographie(const std::string& nom);
 /// sign: -7500 is -12 and -30, -300 is 0 and -30.
 struct partie {
     base::entier32 entiers;
-    double minutes;
+    double minutes = 0;
 };
 partie partage(base::entier32 coordonnee);
 

@@ -49,7 +49,7 @@ void prend_vitesse(const std::array<entier32, 10>& table, const char* nom) {
     const entier16 classe = a == &azimut ? classevitaz : classevitalt;
     if (classe < 0 || classe > 4)
         base::fatale(base::cause::indice, std::string{nom} + ", classe " + base::texte(classe));
-    tempopas = table[static_cast<std::size_t>(classe.valeur() + (a == &azimut ? 0 : 5))];
+    tempopas = table[static_cast<std::size_t>(classe.valeur()) + (a == &azimut ? 0U : 5U)];
 }
 
 // n + 1 passes of a loop counted from 0 to n inclusive.

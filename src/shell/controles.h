@@ -371,7 +371,7 @@ template <class T, std::size_t N> class tableau {
                       std::index_sequence<I...>)
         : premier_(premier), elements_{{T{p, nom, d[I], premier + static_cast<int>(I)}...}} {}
 
-    int premier_;
+    int premier_ = 0;
     std::array<T, N> elements_;
 };
 
