@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that are missing: tools/installe.sh construire|verifier|mesurer
-# `construire` is what building and running needs, `verifier` adds the tests', `mesurer` the benchmarks'.
+# `construire` is what building and running needs, `verifier` adds the tests', `mesurer` the benchmarks'; the others serve
+# the tools of their names.
 set -euo pipefail
 
 paquets=(g++ cmake ninja-build ccache qt6-base-dev qt6-base-dev-tools libgl-dev fonts-dejavu-core)
@@ -10,8 +11,9 @@ verifier) paquets+=(clang libclang-rt-14-dev libgtest-dev xvfb xauth python3 pyt
 mesurer) paquets+=(libbenchmark-dev xvfb xauth) ;;
 captures) paquets+=(xvfb xauth) ;;
 captures_aide) paquets+=(xvfb xauth python3 python3-pil) ;;
+port_reel) paquets=(qemu-system-x86 cpio) ;;
 *)
-    echo "usage: $0 construire|verifier|mesurer|captures|captures_aide" >&2
+    echo "usage: $0 construire|verifier|mesurer|captures|captures_aide|port_reel" >&2
     exit 2
     ;;
 esac
