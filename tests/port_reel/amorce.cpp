@@ -98,7 +98,8 @@ void noyau_ordinaire() {
 void noyau_verrouille() {
     conclut(lance("integrity, avec le droit", 1000));
     conclut(lance("integrity, administrateur", 0));
-    exige(static_cast<bool>(std::ofstream{fichier_verrou} << "confidentiality" << std::flush), fichier_verrou);
+    exige(static_cast<bool>(std::ofstream{fichier_verrou} << "confidentiality" << std::flush),
+          fichier_verrou);
     conclut(lance("confidentiality, administrateur", 0));
 }
 

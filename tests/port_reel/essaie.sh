@@ -22,7 +22,7 @@ trap 'rm -rf "$atelier"' EXIT
 noyau=$construit/vmlinuz
 if [ ! -s "$noyau" ]; then
     paquet=$(apt-cache depends linux-image-amd64 | awk '/Depends: linux-image-/ { print $2; exit }')
-    (cd "$atelier" && apt-get download -q "${paquet:?no kernel package is known: apt-get update}")
+    (cd "$atelier" && apt-get -o APT::Sandbox::User=root download -q "${paquet:?no kernel package is known: apt-get update}")
     dpkg-deb --fsys-tarfile "$atelier"/linux-image-*.deb | tar -x -C "$atelier" --wildcards './boot/vmlinuz-*'
     mv "$atelier"/boot/vmlinuz-* "$noyau"
 fi
@@ -73,5 +73,8 @@ echo
 faute=0
 compare dedans || faute=1
 compare dehors || faute=1
-[ $faute = 0 ] && echo "The real port is as expected ($((SECONDS - debut)) s)."
-exit $faute
+if [ $faute != 0 ]; then
+    tail -n 5 "$atelier"/*.console
+    exit 1
+fi
+echo "The real port is as expected ($((SECONDS - debut)) s)."

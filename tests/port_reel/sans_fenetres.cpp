@@ -8,7 +8,9 @@
 
 #include <csignal>
 #include <cstdio>
-#include <cstring>
+#include <fstream>
+#include <functional>
+#include <initializer_list>
 
 namespace {
 
@@ -31,6 +33,16 @@ class boucle_reelle : public essais::boucle_essai {
     std::function<void(std::int64_t)> attente_;
 };
 
+/// What the process may still do: its own sets of capabilities, as the kernel tells them.
+void montre_droits() {
+    std::ifstream etat{"/proc/self/status"};
+    std::printf("droits :");
+    for (std::string ligne; std::getline(etat, ligne);)
+        if (ligne.starts_with("Cap") && !ligne.starts_with("CapBnd"))
+            std::printf(" %s %s", ligne.substr(3, 3).c_str(), ligne.substr(8).c_str());
+    std::printf("\n");
+}
+
 void observe(boucle_reelle& boucle) {
     const auto apres = [&boucle](int pas, std::function<void()> geste) {
         boucle.reste = 2 * pas; // two yields a step
@@ -40,9 +52,13 @@ void observe(boucle_reelle& boucle) {
         apres(pas, [] { frmaltazpilot::cmddstop.clic(); });
         bouton.clic();
     };
-    const auto relit = [](int registre, int valeur) {
-        Out32(registre, valeur);
-        std::printf("%d : %d relu %d\n", registre, valeur, Inp32(registre).valeur());
+    const auto relit = [](int registre, std::initializer_list<int> valeurs) {
+        std::printf("%d :", registre);
+        for (const int v : valeurs) {
+            Out32(registre, v);
+            std::printf(" %d relu %d", v, Inp32(registre).valeur());
+        }
+        std::printf("\n");
     };
     frminterface::barchoix_boutons(2).clic();
     frminterface::baraltaz_boutons(3).clic();
@@ -64,10 +80,8 @@ void observe(boucle_reelle& boucle) {
     frminterface::Timer.tic();
     std::printf(", %d, compteaz %d\n", cmd_moteur::codepaddle.valeur(), cmd_moteur::compteaz.valeur());
 
-    for (const int valeur : {255, 170, 85, 0})
-        relit(plateforme::registre_donnees, valeur);
-    for (const int valeur : {0, 1, 11})
-        relit(plateforme::registre_controle, valeur);
+    relit(plateforme::registre_donnees, {255, 170, 85, 0});
+    relit(plateforme::registre_controle, {0, 1, 11});
     frminterface::Quitter.clic();
 }
 
@@ -82,6 +96,7 @@ int refuse(int, char**, const std::string& raison) {
 
 // With an argument, stops before anything is built until it is let go on: so that a second one can be tried.
 int lance(int argc, char**, composition c) {
+    montre_droits();
     if (argc > 1)
         raise(SIGSTOP);
     boucle_reelle boucle{c.attente};
