@@ -12,7 +12,8 @@ if [ "$(uname -m)" != x86_64 ]; then
 fi
 tools/installe.sh construire
 tools/installe.sh port_reel
-cmake -S . -B "$construit" -G Ninja -DCMAKE_BUILD_TYPE=Release -DVELMORIA_TESTS=OFF -DVELMORIA_PORT_REEL=ON >/dev/null
+cmake -S . -B "$construit" -G Ninja -DCMAKE_BUILD_TYPE=Release -DVELMORIA_TESTS=OFF -DVELMORIA_PORT_REEL=ON \
+    -DVELMORIA_ERREURS=ON >/dev/null
 cmake --build "$construit" --target velmoria-sans-fenetres amorce -j "$(nproc)"
 
 atelier=$(mktemp -d "$PWD/$construit/atelier.XXXXXX")
@@ -40,8 +41,8 @@ cp "$construit/tests/port_reel/velmoria-sans-fenetres" "$racine/opt/velmoria"
 demarre() {
     local nom=$1
     shift
-    timeout 120 qemu-system-x86_64 -accel tcg -machine pc -m 256 -nodefaults -no-user-config -display none -nic none \
-        -no-reboot -bios qboot.rom -rtc base=2001-08-15T22:00:00 -parallel null \
+    timeout 120 qemu-system-x86_64 -accel tcg -machine pc -m 256 -nodefaults -no-user-config -display none \
+        -nic none -no-reboot -bios qboot.rom -rtc base=2001-08-15T22:00:00 -parallel null \
         -serial "file:$atelier/$nom.console" -serial "file:$atelier/$nom.dedans" \
         -trace parallel_ioport_write -trace parallel_ioport_read -D "$atelier/$nom.dehors" \
         -kernel "$noyau" -initrd "$atelier/initrd" -append "console=ttyS0 panic=-1 $*" || {
