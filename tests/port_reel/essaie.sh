@@ -23,7 +23,8 @@ trap 'rm -rf "$atelier"' EXIT
 noyau=$construit/vmlinuz
 if [ ! -s "$noyau" ]; then
     paquet=$(apt-cache depends linux-image-amd64 | awk '/Depends: linux-image-/ { print $2; exit }')
-    (cd "$atelier" && apt-get -o APT::Sandbox::User=root download -q "${paquet:?no kernel package is known: apt-get update}")
+    : "${paquet:?no kernel package is known: apt-get update}"
+    (cd "$atelier" && apt-get -o APT::Sandbox::User=root download -q "$paquet")
     dpkg-deb --fsys-tarfile "$atelier"/linux-image-*.deb | tar -x -C "$atelier" --wildcards './boot/vmlinuz-*'
     mv "$atelier"/boot/vmlinuz-* "$noyau"
 fi
@@ -67,6 +68,8 @@ compare() {
 debut=$SECONDS
 demarre ordinaire
 demarre verrouille lockdown=integrity
+qemu-system-x86_64 --version | head -n 1
+grep -o 'Linux version [^ ]*' "$atelier/ordinaire.console"
 cat "$atelier/dedans"
 echo "== seen from outside"
 fmt -w 110 "$atelier/dehors"
