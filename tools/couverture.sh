@@ -6,7 +6,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 filtre=${1:-.}
 shift || true
-tools/installe.sh couvrir
+tools/installe.sh couverture
 d=build/couverture
 cmake --preset couverture >/dev/null
 cmake --build --preset couverture -j "$(nproc)" >/dev/null

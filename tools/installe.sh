@@ -1,19 +1,20 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that are missing: tools/installe.sh construire|verifier|mesurer
-# `construire` is what building and running needs, `verifier` adds the tests', `mesurer` the benchmarks', `couvrir` the
-# line counters'.
+# `construire` is what building and running needs, `verifier` adds the tests', `mesurer` the benchmarks'; the others serve
+# the tools of their names.
 set -euo pipefail
 
 paquets=(g++ cmake ninja-build ccache qt6-base-dev qt6-base-dev-tools libgl-dev fonts-dejavu-core)
 case "${1:-construire}" in
 construire) ;;
-verifier) paquets+=(clang libclang-rt-14-dev libgtest-dev xvfb xauth python3 python3-erfa python3-astropy python3-pil) ;;
+verifier) paquets+=(clang clang-tidy libclang-rt-14-dev libgtest-dev xvfb xauth python3 python3-erfa python3-astropy python3-pil) ;;
 mesurer) paquets+=(libbenchmark-dev xvfb xauth) ;;
-couvrir) paquets+=(clang llvm libclang-rt-14-dev libgtest-dev xvfb xauth python3) ;;
+couverture) paquets+=(clang llvm libclang-rt-14-dev libgtest-dev xvfb xauth python3) ;;
 captures) paquets+=(xvfb xauth) ;;
 captures_aide) paquets+=(xvfb xauth python3 python3-pil) ;;
+port_reel) paquets=(qemu-system-x86 cpio) ;;
 *)
-    echo "usage: $0 construire|verifier|mesurer|couvrir|captures|captures_aide" >&2
+    echo "usage: $0 construire|verifier|mesurer|couverture|captures|captures_aide|port_reel" >&2
     exit 2
     ;;
 esac
