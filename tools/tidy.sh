@@ -1,9 +1,21 @@
 #!/usr/bin/env bash
-# tools/tidy.sh [BUILD FOLDER]: clang-tidy over every source file of src, as the Clang build there compiles it (default
-# build/sanitizers). What it looks for, and why, stands in .clang-tidy; any finding is a failure.
+# tools/tidy.sh [BUILD FOLDER]: clang-tidy over src as the Clang build there compiles it (default build/sanitizers).
+# What it looks for, and why, stands in .clang-tidy; any finding is a failure. A source is looked at again when it, any
+# header or the list of checks has changed since the last run without a finding.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 construit=${1:-build/sanitizers}
-sources=$(find src -name '*.cpp' | sort)
-printf '%s files\n' "$(wc -w <<<"$sources")"
-xargs -P "$(nproc)" -n 3 clang-tidy -p "$construit" --quiet <<<"$sources" 2> >(grep -v ' warnings\? generated' >&2)
+marque=$construit/tidy.marque
+
+depuis=()
+if [ -e "$marque" ] && [ -z "$(find .clang-tidy src -newer "$marque" \( -name '*.h' -o -name .clang-tidy \))" ]; then
+    depuis=(-newer "$marque")
+fi
+mapfile -t sources < <(find src -name '*.cpp' "${depuis[@]}" | sort)
+printf '%s files to look at\n' "${#sources[@]}"
+touch "$marque.neuve"
+if [ ${#sources[@]} -gt 0 ]; then
+    printf '%s\n' "${sources[@]}" | xargs -P "$(nproc)" -n 3 clang-tidy -p "$construit" --quiet \
+        2> >(grep -v ' warnings\? generated' >&2)
+fi
+mv "$marque.neuve" "$marque"

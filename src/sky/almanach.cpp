@@ -36,7 +36,7 @@ void lit_mois(const std::string& nom) {
 } // namespace
 
 void lit_almanach() {
-    const auto jour = static_cast<std::size_t>(frmcoord::cbjour.position() + 1);
+    const auto jour = static_cast<std::size_t>(frmcoord::cbjour.position()) + 1; // 0 where none is chosen
     const int mois = frmcoord::cbmois.position() + 1;
     const int annee = frmcoord::cbannee.position() + 2000;
     choisit_dossier(mois, annee);

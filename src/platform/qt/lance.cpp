@@ -19,7 +19,7 @@ seance::seance(int argc, char** argv, composition c) : argc_(argc), c_(std::move
     prepare();
     application_ = std::make_unique<QApplication>(argc_, argv);
     prend_les_images();
-    habille(*application_);
+    habille();
     QApplication::setApplicationName("Velmoria");
     QApplication::setWindowIcon(icone_programme(c_.icone));
 
@@ -53,7 +53,7 @@ int lance(int argc, char** argv, composition c) {
 int refuse(int argc, char** argv, const std::string& raison) {
     prepare();
     QApplication application{argc, argv};
-    habille(application);
+    habille();
     vue_qt{}.message(raison);
     return 1;
 }

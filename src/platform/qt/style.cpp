@@ -80,13 +80,13 @@ void prepare() {
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
 }
 
-void habille(QApplication& application) {
+void habille() {
     QApplication::setStyle(new style_calme);
     QApplication::setPalette(couleurs());
     QFont police{"DejaVu Sans"};
     police.setPixelSize(hauteur_police);
     QApplication::setFont(police);
-    application.setQuitOnLastWindowClosed(false);
+    QApplication::setQuitOnLastWindowClosed(false);
     for (const auto effet : {Qt::UI_AnimateMenu, Qt::UI_FadeMenu, Qt::UI_AnimateCombo, Qt::UI_AnimateTooltip,
                              Qt::UI_FadeTooltip, Qt::UI_AnimateToolBox})
         QApplication::setEffectEnabled(effet, false);

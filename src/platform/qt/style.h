@@ -1,8 +1,6 @@
 // One look on every machine: widget style, colours and font.
 #pragma once
 
-class QApplication;
-
 namespace plateforme::qt {
 
 /// Height of the font, logical pixels.
@@ -12,6 +10,6 @@ inline constexpr int hauteur_police = 12;
 void prepare();
 
 /// To be called once it is.
-void habille(QApplication& application);
+void habille();
 
 } // namespace plateforme::qt

@@ -7,6 +7,7 @@ namespace plateforme {
 namespace {
 
 int octet(std::string_view s, std::size_t i) { return static_cast<std::uint8_t>(s[i]); }
+int gros_boutiste(std::string_view s, std::size_t i) { return octet(s, i) * 256 + octet(s, i + 1); }
 
 std::optional<image> lit_gif(std::string_view s) {
     if (s.size() < 10)
@@ -25,12 +26,12 @@ std::optional<image> lit_jpeg(std::string_view s) {
             ++p;
             continue;
         }
-        const auto longueur = static_cast<std::size_t>(octet(s, p + 2) * 256 + octet(s, p + 3));
+        const auto longueur = static_cast<std::size_t>(gros_boutiste(s, p + 2));
         const auto corps = s.substr(p + 4, longueur < 2 ? 0 : longueur - 2);
         if (longueur < 2 || corps.size() + 2 < longueur)
             return std::nullopt;
         if (marque == 0xE0 && corps.size() >= 12 && corps.starts_with(std::string_view{"JFIF\0", 5})) {
-            const int densite = octet(corps, 8) * 256 + octet(corps, 9);
+            const int densite = gros_boutiste(corps, 8);
             if (densite > 0 && octet(corps, 7) == 1)
                 i.ppp = densite;
             if (densite > 0 && octet(corps, 7) == 2)
@@ -41,8 +42,8 @@ std::optional<image> lit_jpeg(std::string_view s) {
         if (cadre) {
             if (corps.size() < 5)
                 return std::nullopt;
-            i.hauteur = octet(corps, 1) * 256 + octet(corps, 2);
-            i.largeur = octet(corps, 3) * 256 + octet(corps, 4);
+            i.hauteur = gros_boutiste(corps, 1);
+            i.largeur = gros_boutiste(corps, 3);
             return i;
         }
         p += 2 + longueur;
