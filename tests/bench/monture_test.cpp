@@ -38,16 +38,6 @@ TEST(Monture, CountsRisingEdgesByDirection) {
     }
 }
 
-TEST(Monture, OnlyTheDataRegisterMovesIt) {
-    monture m;
-    banc::port_simule port(m);
-    port.ecrit(890, 11);
-    ASSERT_TRUE(port.presente(26));
-    EXPECT_TRUE(m.compte() == impulsions{});
-    port.ecrit(888, 1);
-    EXPECT_TRUE(m.compte() == (impulsions{0, 0, 1, 0}));
-}
-
 void avance(monture& m, int octet, int n) {
     for (int i = 0; i < n; ++i) {
         m.recoit(0);

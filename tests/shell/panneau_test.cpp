@@ -1,5 +1,4 @@
-#include "echec.h"
-#include "essai_virtuel.h"
+#include "essai.h"
 #include "shell/controles.h"
 
 namespace essai {
@@ -37,7 +36,7 @@ using essais::attend_echec;
 
 namespace {
 
-class Panneau : public essais::Virtuel {
+class Panneau : public essais::Essai {
   protected:
     Panneau() {
         fiche.construit(shell::liste(cadre, texte, bouton, stop, liste_objets, annee, barre, hiver, ete,

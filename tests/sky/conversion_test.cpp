@@ -1,5 +1,4 @@
-#include "echec.h"
-#include "machine_essai.h"
+#include "essai.h"
 #include "settings/frmconfig_champs.h"
 #include "shell/frmcoord_champs.h"
 #include "sky/affichage.h"
@@ -16,7 +15,7 @@ namespace {
 
 using base::cause;
 using essais::attend_echec;
-using essais::machine_essai;
+using essais::machine;
 
 // Site and time of an instant at which the local sidereal time is so many seconds.
 void pose(const std::string& latitude, int tsl) {
@@ -58,7 +57,7 @@ std::vector<std::vector<std::string>> references() {
 }
 
 TEST(conversion, table_de_reference) {
-    const machine_essai m;
+    const machine m;
     const auto toutes = references();
     ASSERT_GT(toutes.size(), 100u);
     frmcoord::fiche.charge();
@@ -87,7 +86,7 @@ TEST(conversion, table_de_reference) {
 
 // The place computed from a position and shown on the panels is at that position at the same instant.
 TEST(conversion, aller_et_retour) {
-    const machine_essai m;
+    const machine m;
     frmcoord::fiche.charge();
     int essayees = 0;
     for (const char* latitude : {"48.16", "5", "-33.5"})
@@ -110,7 +109,7 @@ TEST(conversion, aller_et_retour) {
 // Every quadrant by the sense of the sky: at latitude 45 and declination 0, one hour either side of a
 // transit.
 TEST(conversion, quadrants) {
-    const machine_essai m;
+    const machine m;
     frmcoord::fiche.charge();
     const struct {
         const char *ad_h, *ad_min, *signe, *deg;
@@ -131,27 +130,9 @@ TEST(conversion, quadrants) {
     }
 }
 
-TEST(conversion, points_singuliers) {
-    const machine_essai m;
-    frmcoord::fiche.charge();
-    pose("45", 3600);
-    pose_objet("1", "0", "+", "45");
-    attend_echec(cause::division_par_zero, general::calcul_altaz); // at the zenith
-    pose("0", 3600);
-    pose_objet("4", "0", "+", "0");
-    attend_echec(cause::division_par_zero, general::calcul_altaz); // due east
-    pose("45", 3600);
-    pose_objet("1", "0", "+", "0");
-    general::calcul_altaz();
-    EXPECT_EQ(general::posaz, 0) << "an exact transit in the south is taken for the north";
-    EXPECT_NEAR(general::posalt, 45 * 3600, 1e-6);
-    frmcoord::txth.ecrit("1e308");
-    attend_echec(cause::depassement, general::calcul_altaz);
-}
-
 // The exact south is taken for the north, and only that one value.
 TEST(conversion, plein_sud) {
-    const machine_essai m;
+    const machine m;
     frmcoord::fiche.charge();
     pose("48", 0);
     general::posalt = 108000;
@@ -164,7 +145,7 @@ TEST(conversion, plein_sud) {
 }
 
 TEST(conversion, affichage_equatorial) {
-    const machine_essai m;
+    const machine m;
     const struct {
         double ad, dec;
         const char *h, *min, *signe, *deg, *minarc;

@@ -1,5 +1,4 @@
-#include "echec.h"
-#include "machine_essai.h"
+#include "essai.h"
 #include "settings/frmconfig_champs.h"
 #include "shell/frmcoord_champs.h"
 #include "sky/math.h"
@@ -36,7 +35,7 @@ TEST(math, inverses) {
 }
 
 TEST(math, degres_minutes_secondes) {
-    const essais::machine_essai m;
+    const essais::machine m;
     const struct {
         double arcsec;
         const char *deg, *min, *sec;
@@ -52,7 +51,7 @@ TEST(math, degres_minutes_secondes) {
 }
 
 TEST(math, angle_d_un_pas) {
-    const essais::machine_essai m;
+    const essais::machine m;
     const struct {
         const char *pas, *rapport;
         double angle;

@@ -63,7 +63,8 @@ TEST(EnteteImage, TellsSizeAndDensity) {
     const auto jpeg = [](const std::string& densite, const std::string& suite) {
         return "\xFF\xD8\xFF\xE0\x00\x10JFIF\0\x01\x02"s + densite + "\0\0"s + suite;
     };
-    const auto cadre = "\xFF\xFE\x00\x05""ab\0\xFF\xC2\x00\x0B\x08\x01\x2C\x02\x58\x01\x01\x11\x00"s;
+    const auto cadre = "\xFF\xFE\x00\x05"
+                       "ab\0\xFF\xC2\x00\x0B\x08\x01\x2C\x02\x58\x01\x01\x11\x00"s;
     const auto pouce = lit_entete(jpeg("\x01\x00\x48\x00\x48"s, cadre));
     ASSERT_TRUE(pouce);
     EXPECT_EQ(pouce->largeur, 600);
