@@ -7,6 +7,8 @@
 #include "chart/frmImage_champs.h"
 #include "chart/redessine.h"
 
+#include <set>
+
 namespace {
 
 class carte : public essais::fenetres {
@@ -150,13 +152,32 @@ TEST_F(carte, the_legend_leaves_the_keyboard_to_the_sky) {
     EXPECT_EQ(chart::zoomcercle, 2);
 }
 
-// What code draws while the window is covered or hidden is there when it is seen again.
+// What code draws while the window is covered or hidden is there when it is seen again. From 4:1 on the stars
+// have their letters, painted beside them and nowhere else.
 TEST_F(carte, drawn_while_hidden) {
     const auto avant = vue();
     frmCercle::fiche.cache();
-    frmCercle::mnuZTrois.clic();
+    frmCercle::mnuZQuatre.clic();
     frmCercle::fiche.montre();
-    EXPECT_NE(vue(), avant);
+    const auto avec = vue();
+    EXPECT_NE(avec, avant);
+    chart::lettresgrecques = false;
+    chart::redessine();
+    const auto sans = vue();
+    std::set<std::pair<int, int>> beside;
+    for (const auto& e : chart::astres.etoiles)
+        for (int x = 0; x < 16; ++x)
+            for (int y = 0; y < 20; ++y)
+                beside.emplace(static_cast<int>((e.x + 50) / shell::twips_par_pixel) + x,
+                               static_cast<int>((e.y + 50) / shell::twips_par_pixel) + y);
+    int lettres = 0;
+    for (int y = 0; y < avec.height(); ++y)
+        for (int x = 0; x < avec.width(); ++x)
+            if (avec.pixel(x, y) != sans.pixel(x, y)) {
+                ++lettres;
+                EXPECT_EQ(beside.count({x, y}), 1u) << x << " " << y;
+            }
+    EXPECT_GT(lettres, 100);
     QTest::keyClick(ciel, Qt::Key_Home);
     EXPECT_EQ(vue(), avant);
 }
