@@ -3,17 +3,8 @@
 
 namespace {
 
-using base::cause;
 using base::entier32;
-using essais::attend_echec;
 using essais::machine;
-
-std::string objets(std::size_t n) {
-    std::string t;
-    for (std::size_t i = 1; i <= n; ++i)
-        t.append("X").append(std::to_string(i)).append(",GL,1,2\r\n");
-    return t;
-}
 
 TEST(catalogue, enregistrements) {
     const machine m;
@@ -30,22 +21,6 @@ TEST(catalogue, enregistrements) {
     catalogue::charge("ic.cat", carte);
     EXPECT_EQ(carte.ad[1], 2.5) << "the chart keeps a fraction";
     EXPECT_EQ(carte.dec[1], -3.5);
-}
-
-TEST(catalogue, limites) {
-    const machine m;
-    for (const std::size_t limite : {catalogue::etoiles_panneau, catalogue::objets_panneau,
-                                     catalogue::etoiles_carte, catalogue::objets_carte}) {
-        m.fichier("ngc3.cat", objets(limite));
-        EXPECT_EQ(catalogue::lit("ngc3.cat", limite).size(), limite);
-        m.fichier("ngc3.cat", objets(limite + 1));
-        const auto detail = attend_echec(cause::indice, [&] { catalogue::lit("ngc3.cat", limite); });
-        EXPECT_NE(detail.find("ngc3.cat"), std::string::npos);
-        EXPECT_NE(detail.find(std::to_string(limite + 1)), std::string::npos);
-    }
-    m.fichier("ngc3.cat", objets(2) + "X3,GL,1");
-    attend_echec(cause::fin_de_fichier, [] { catalogue::lit("ngc3.cat", 10); });
-    attend_echec(cause::fichier_introuvable, [] { catalogue::lit("ngc8.cat", 10); });
 }
 
 TEST(catalogue, fichiers_livres) {

@@ -110,14 +110,12 @@ TEST_F(Moteur, SpeedComesFromTheClassOfTheCommandsAxis) {
 }
 
 TEST_F(Moteur, ACountIsNPlusOnePasses) {
-    attente(0);
-    EXPECT_EQ(boucle.temps(), 30);
-    attente(999);
-    EXPECT_EQ(boucle.temps(), 30 + 30'000);
-    attente(-1);
-    EXPECT_EQ(boucle.temps(), 30 + 30'000);
-    attente(entier32::maximum);
-    EXPECT_EQ(boucle.temps(), 30 + 30'000 + 30 * (std::int64_t{1} << 31));
+    std::int64_t attendu = 0;
+    for (const auto& [n, passes] :
+         {std::pair{0, std::int64_t{1}}, {999, 1000}, {-1, 0}, {2147483647, 1LL << 31}}) {
+        attente(n);
+        EXPECT_EQ(boucle.temps(), attendu += 30 * passes);
+    }
 }
 
 TEST_F(Moteur, ABurstGoesTheWayOfItsDifference) {

@@ -12,6 +12,7 @@
 #include "shell/frmcoord_champs.h"
 #include "shell/frminterface.h"
 #include "shell/frminterface_champs.h"
+#include "sky/heure.h"
 #include "tracking/frmaltazsuivi_champs.h"
 
 namespace {
@@ -59,6 +60,30 @@ TEST_F(Programme, barre_generale) {
     bargeneral_boutons(4).clic();
     EXPECT_TRUE(baraltaz.visible() && frmcoord::fiche.est_visible() && pointing::panneaualtaz == true);
     EXPECT_FALSE(frmequapilot::fiche.est_charge() || barequa.visible());
+}
+
+// The clock's panel at its load, before any tick: the day before in hour 0 of either season, summer from May
+// to October.
+TEST_F(Programme, heure_au_chargement) {
+    const struct {
+        int mois, jour, heure;
+        const char* heure_universelle;
+        int cbjour, decalage;
+    } cas[] = {{8, 15, 22, "20 30 15", 14, 2}, {8, 15, 0, "22 30 15", 13, 2}, {8, 15, 2, "0 30 15", 14, 2},
+               {8, 1, 0, "22 30 15", -1, 2},   {2, 10, 0, "22 30 15", 9, 1},  {2, 10, 1, "23 30 15", 8, 1},
+               {4, 30, 12, "10 30 15", 29, 1}, {5, 1, 12, "10 30 15", 0, 2},  {10, 31, 12, "10 30 15", 30, 2},
+               {11, 1, 12, "10 30 15", 0, 1}};
+    using namespace frmcoord;
+    for (const auto& c : cas) {
+        boucle.regle_horloge({2001, c.mois, c.jour, c.heure, 30, 15});
+        frmcoord::fiche.decharge();
+        frmcoord::fiche.charge();
+        EXPECT_EQ(txth.lit() + " " + txtmin.lit() + " " + txts.lit(), c.heure_universelle) << c.mois;
+        EXPECT_EQ(cbjour.position(), c.cbjour) << c.mois << " " << c.heure;
+        EXPECT_EQ(cbmois.position(), c.mois - 1);
+        EXPECT_EQ(general::decalageheure, c.decalage) << c.mois;
+        EXPECT_TRUE(optété.coche() == (c.decalage == 2) && opthivers.coche() == (c.decalage == 1));
+    }
 }
 
 // Whatever made them, lines are read, and saved as the program writes them; every byte survives.

@@ -236,7 +236,10 @@ TEST_F(tic_suivi, lieu_pointe_puis_objet_choisi) {
     general::posaz = 700000;
     general::posalt = 100000;
     frmconfig::txtlatdeg.ecrit("48");
+    tracking::sommeaz = tracking::sommealt = 2;
     frmaltazsuivi::cmdcalcul.clic();
+    EXPECT_EQ(tracking::sommeaz, 0) << "a start owes nothing";
+    EXPECT_EQ(tracking::sommealt, 0);
     EXPECT_NEAR(general::posaz, 700000, 1e-4);
     EXPECT_NEAR(general::posalt, 100000, 1e-4);
     EXPECT_EQ(frmaltazsuivi::Txtad_h.lit(), frmconfig::Txtad_h.lit());
