@@ -1,4 +1,3 @@
-#include "catalogue/catalogue.h"
 #include "chart/astres_carte.h"
 #include "chart/etat_carte.h"
 #include "chart/frmCercle_champs.h"
@@ -7,9 +6,6 @@
 #include "chart/redessine.h"
 #include "chart/vue_carte.h"
 #include "essai.h"
-
-#include <cmath>
-#include <numbers>
 
 namespace {
 
@@ -31,30 +27,6 @@ class carte : public essais::Essai {
         (etoile ? chart::astres.etoiles[i] : chart::astres.objets[i]) = std::move(a);
     }
 };
-
-// Back from the place to the coordinates, for every object of the delivered catalogues.
-TEST_F(carte, une_projection_se_remonte) {
-    chart::initialise_vue();
-    chart::zoome(7); // where a unit of the chart is finest
-    chart::tourne(-130);
-    chart::offsetx = 250;
-    chart::offsety = -1750;
-    int vus = 0;
-    for (const auto& e : catalogue::entrees)
-        for (const auto& a : catalogue::lit(e.fichier, catalogue::objets_carte)) {
-            const auto p = chart::projette(a.ad, a.dec);
-            const double x = p.x + 0.5 - 4750; // the middle of what is rounded down
-            const double y = p.y + 0.5 - 2750;
-            const double degres = std::hypot(x, y) / 31500 * 90;
-            EXPECT_NEAR(90 - degres, a.dec / 600, 0.003) << a.nom;
-            if (degres < 1)
-                continue;
-            const double angle = std::atan2(y, x) * 180 / std::numbers::pi + 130;
-            EXPECT_NEAR(std::remainder(angle - a.ad / 40, 360), 0, 0.003 * 60 / degres) << a.nom;
-            ++vus;
-        }
-    EXPECT_GT(vus, 8000);
-}
 
 TEST_F(carte, places_remarquables) {
     const struct {

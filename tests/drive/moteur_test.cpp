@@ -85,30 +85,6 @@ TEST_F(Moteur, EachRoutineKeepsItsOwnTableOfSenses) {
     EXPECT_FALSE(static_cast<bool>(sensplus));
 }
 
-TEST_F(Moteur, SpeedComesFromTheClassOfTheCommandsAxis) {
-    for (int i = 0; i < 10; ++i) {
-        vitessealtaz[static_cast<std::size_t>(i)] = 100 + i;
-        vitesseequa[static_cast<std::size_t>(i)] = 200 + i;
-    }
-    classevitaz = 4;
-    classevitalt = 1;
-    cmdsens = 2;
-    tempoaltaz();
-    EXPECT_EQ(tempopas, 104);
-    cmdsens = 3;
-    tempoequa();
-    EXPECT_EQ(tempopas, 206);
-    cmdsens = 0;
-    tempoequa();
-    EXPECT_EQ(tempopas, 206) << "no axis, no change";
-    cmdsens = 1;
-    classevitaz = -1;
-    attend_echec(cause::indice, tempoaltaz);
-    cmdsens = 4;
-    classevitalt = 5;
-    attend_echec(cause::indice, tempoequa);
-}
-
 TEST_F(Moteur, ACountIsNPlusOnePasses) {
     std::int64_t attendu = 0;
     for (const auto& [n, passes] :

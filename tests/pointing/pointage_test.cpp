@@ -79,39 +79,6 @@ TEST_F(Altaz, une_passe) {
         EXPECT_NEAR((alt - posalt) / angpasalt, c.reste_alt, 1e-6) << c.pas_az << " " << c.pas_alt;
         frmDepl::fiche.decharge();
     }
-    // On a second pass the bars stand as the first left them: a count of 0 then arrives, and so does a stop
-    // after the first pulse, which has not written its bar yet.
-    passe(5.5, 7.5);
-    passe(0.4, 0.4);
-    EXPECT_EQ(monture.compte().az0, 1u);
-    EXPECT_EQ(posaz, az);
-    EXPECT_EQ(posalt, alt);
-    EXPECT_NEAR(pointing::distaz, 0.4 * angpasaz, 1e-6);
-    boucle.programme(60'000, "", [] { frmDepl::cmstoppointage.appuie(); });
-    passe(5.5, 7.5);
-    EXPECT_EQ(monture.compte(), (banc::impulsions{1, 0, 0, 0}));
-    EXPECT_EQ(posaz, az);
-    EXPECT_EQ(posalt, alt);
-    EXPECT_EQ(pointing::distaz, 0);
-}
-
-// Without whole degrees a declination is southern, whatever its minutes.
-TEST_F(Altaz, moins_zero_degre) {
-    auto& choix = frmaltazpointage::choix;
-    choix.lbCatalogue.choisit(0);
-    choix.tAD(0).saisit("6");
-    const auto hauteur = [&](const char* degres, const char* minutes) {
-        choix.tDec(0).ecrit(degres);
-        choix.tDec(1).ecrit(minutes);
-        choix.bOK.clic();
-        return posalt;
-    };
-    const double sud = hauteur("-0", "30");
-    EXPECT_EQ(hauteur("0", "30"), sud);
-    EXPECT_EQ(hauteur("abc", "-30"), sud);
-    // At -0 30 it lies a quarter of the way from -1 to +1.
-    const double moins_un = hauteur("-1", "0");
-    EXPECT_NEAR((hauteur("1", "0") - sud) / (sud - moins_un), 3, 0.1);
 }
 
 // What does not fit 16 bits is fatal before anything moves; a target beyond the sky is none of its business.

@@ -212,27 +212,6 @@ TEST_F(Panneau, BarsFireOnlyWhenTheyMove) {
     attend_echec(cause::indice, [] { cases(2); });
 }
 
-TEST_F(Panneau, OptionsExcludeEachOtherInTheirFrame) {
-    fiche.charge();
-    pris();
-    hiver.coche(true);
-    EXPECT_EQ(pris(), "hiver ");
-    EXPECT_FALSE(ete.coche());
-    EXPECT_TRUE(ailleurs.coche());
-    hiver.coche(true);
-    EXPECT_EQ(pris(), "");
-    hiver.clic();
-    EXPECT_EQ(pris(), "hiver ");
-    ete.clic();
-    EXPECT_EQ(pris(), "ete ");
-    EXPECT_FALSE(hiver.coche());
-    case_.regle(true);
-    case_.regle(true);
-    EXPECT_TRUE(case_.coche());
-    case_.clic();
-    EXPECT_FALSE(case_.coche());
-}
-
 TEST_F(Panneau, TheViewHearsOfChangesOnly) {
     fiche.montre();
     EXPECT_EQ(vue.elevations, 0);
@@ -286,25 +265,4 @@ TEST_F(Panneau, ATickIsNeverReentered) {
     EXPECT_EQ(plus_profond, 1);
     // 100 to 400 the first; the one held back at 400; then every 20 ms: 420.
     EXPECT_EQ(tics, 3);
-}
-
-TEST_F(Panneau, ANewIntervalCountsFromItsSettingAndTheSameChangesNothing) {
-    int tics = 0;
-    horloge.au_tic([&] { ++tics; });
-    horloge.marche(true);
-    boucle.avance(60'000'000);
-    horloge.intervalle(100);
-    boucle.avance(40'000'000);
-    EXPECT_EQ(tics, 1);
-    boucle.avance(60'000'000);
-    horloge.intervalle(50);
-    boucle.avance(49'000'000);
-    EXPECT_EQ(tics, 1);
-    boucle.avance(1'000'000);
-    EXPECT_EQ(tics, 2);
-    horloge.intervalle(-3);
-    EXPECT_EQ(horloge.intervalle(), 1);
-    horloge.marche(false);
-    boucle.avance(500'000'000);
-    EXPECT_EQ(tics, 2);
 }

@@ -13,43 +13,18 @@ using general::lit_almanach;
 
 const char* const aout = "date/2001/aout/sg0.txt";
 
-void choisit(int jour, int mois, int annee) {
-    frmcoord::cbjour.position(jour - 1);
-    frmcoord::cbmois.position(mois - 1);
-    frmcoord::cbannee.position(annee - 2000);
-}
-
-std::string lignes(int n) {
-    std::string t;
-    for (int i = 1; i <= n; ++i)
-        t += std::to_string(i) + ",0,0," + std::to_string(i) + "\r\n";
-    return t;
-}
-
-TEST(almanach, formes_du_fichier) {
-    const machine m;
-    choisit(2, 8, 2001);
-    for (const char* texte : {"1,0,0,0\r\n2,6,34,56\r\n", "1 0 0 0\r\n2 6 34 56\r\n",
-                              "1,0,0,0,2,6,34\r\n56\r\n", "1,0,0,0\n9, 6 ,34,55.6\n"}) {
-        m.fichier(aout, texte);
-        lit_almanach();
-        EXPECT_EQ(frmcoord::txtessai.lit(), "23696") << texte;
-    }
-    EXPECT_EQ(general::chemindate, "date/2001/aout");
-    EXPECT_EQ(general::jouralm[2], 9);
-    EXPECT_EQ(general::indicejour, 3);
-    m.fichier(aout, lignes(32));
-    lit_almanach();
-    EXPECT_EQ(general::tsg0, 2);
-    frmcoord::cbjour.position(-1);
-    lit_almanach();
-    EXPECT_EQ(frmcoord::txtessai.lit(), "0") << "row 0 stays 0";
-}
-
 TEST(almanach, fichiers_fautifs) {
     const machine m;
-    choisit(1, 8, 2001);
-    m.fichier(aout, lignes(33));
+    frmcoord::cbjour.position(0);
+    frmcoord::cbmois.position(7);
+    frmcoord::cbannee.position(1);
+    std::string lignes;
+    for (int i = 1; i <= 32; ++i)
+        lignes += std::to_string(i) + ",0,0," + std::to_string(i) + "\r\n";
+    m.fichier(aout, lignes);
+    lit_almanach();
+    EXPECT_EQ(general::tsg0, 1);
+    m.fichier(aout, lignes + "33,0,0,0");
     EXPECT_NE(attend_echec(cause::indice, lit_almanach).find("aout"), std::string::npos);
     m.fichier(aout, "1,6,34\r\n");
     attend_echec(cause::fin_de_fichier, lit_almanach);

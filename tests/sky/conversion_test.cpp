@@ -13,8 +13,6 @@
 
 namespace {
 
-using base::cause;
-using essais::attend_echec;
 using essais::machine;
 
 // Site and time of an instant at which the local sidereal time is so many seconds.
@@ -24,15 +22,6 @@ void pose(const std::string& latitude, int tsl) {
         champ->ecrit("0");
     frmconfig::txtlatdeg.ecrit(latitude);
     frmcoord::txtessai.ecrit(base::entier32{tsl});
-}
-
-void pose_objet(const std::string& h, const std::string& min, const std::string& signe,
-                const std::string& deg) {
-    frmconfig::Txtad_h.ecrit(h);
-    frmconfig::txtad_min.ecrit(min);
-    frmconfig::txtsign.ecrit(signe);
-    frmconfig::txtdec_deg.ecrit(deg);
-    frmconfig::txtdec_min.ecrit("0");
 }
 
 // Angle on the sky between the position and a place in degrees, arcseconds.
@@ -104,30 +93,6 @@ TEST(conversion, aller_et_retour) {
                 ++essayees;
             }
     EXPECT_GT(essayees, 1000);
-}
-
-// Every quadrant by the sense of the sky: at latitude 45 and declination 0, one hour either side of a
-// transit.
-TEST(conversion, quadrants) {
-    const machine m;
-    frmcoord::fiche.charge();
-    const struct {
-        const char *ad_h, *ad_min, *signe, *deg;
-        double az_min, az_max;
-    } cas[] = {{"9", "59", "+", "0", 180, 181},    // a minute past the southern transit
-               {"10", "1", "+", "0", 179, 180},    // a minute before it
-               {"11", "0", "+", "70", 0, 90},      // north of the zenith, east
-               {"9", "0", "+", "70", 270, 360},    // and west
-               {"16", "30", "+", "20", 0, 90},     // rising in the north-east
-               {"3", "30", "+", "20", 270, 360},   // setting in the north-west
-               {"4", "30", " +", "20", 180, 270}}; // only exactly "+" is positive
-    for (const auto& c : cas) {
-        pose("45", 36000);
-        pose_objet(c.ad_h, c.ad_min, c.signe, c.deg);
-        general::calcul_altaz();
-        EXPECT_GT(general::azdeg, c.az_min) << c.ad_h << "h" << c.ad_min << " " << c.signe << c.deg;
-        EXPECT_LT(general::azdeg, c.az_max) << c.ad_h << "h" << c.ad_min << " " << c.signe << c.deg;
-    }
 }
 
 // The exact south is taken for the north, and only that one value.
