@@ -118,6 +118,10 @@ TEST(Scenario, TellsWhatItShowsAndWhatItDoesNotUnderstand) {
         {"montre frmaltazpointage.lbCatalogue.position", 0, "frmaltazpointage.lbCatalogue.position = 2"},
         {"montre frmDepl.ProgressBaraz.valeur", 0, "frmDepl.ProgressBaraz.valeur = 0"},
         {"coche frmcoord.opthivers 1\nmontre frmcoord.opthivers\nquitte\nsaute", 0, "frmcoord.opthivers = 1"},
+        {"demarre\nclic frminterface.barchoix(2)\nfichier config_altaz.ini 1|2\nmontre monture", 0,
+         "monture az=0 alt=0"},
+        {"demarre\nclic frminterface.barchoix(1)\nfichier config_equa.ini -\nmontre monture", 0,
+         "monture az=0 alt=0"},
         {"attend cmdsens 0\nattend cmdsens 1", 1, "cmdsens : \"1\" était attendu, la réponse est \"0\""},
     };
     for (const auto& c : cas) {
