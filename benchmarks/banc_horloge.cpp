@@ -119,7 +119,7 @@ void mesure_catalogue() {
     constexpr int petit = 1;
     constexpr int grand = 2;
     frmconfig::lbCatalogue.choisit(grand);
-    const int lignes = frmconfig::lbObjets.lignes();
+    const int lignes = static_cast<int>(frmconfig::lbObjets.regarde_lignes().size());
     std::vector<double> durees, peinture;
     peintures p;
     for (int i = 0; i < 51; ++i) {

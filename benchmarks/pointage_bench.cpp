@@ -62,7 +62,7 @@ void filtre(benchmark::State& etat, shell::entree& entree) {
     prepare();
     for (auto _ : etat)
         entree.clic();
-    etat.counters["lignes"] = frmequapointage::choix.lbObjets.lignes();
+    etat.counters["lignes"] = static_cast<double>(frmequapointage::choix.lbObjets.regarde_lignes().size());
 }
 
 constexpr std::int64_t impulsions = 100'000;

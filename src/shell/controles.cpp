@@ -197,7 +197,6 @@ void entree::ouvre(const entree* defaut) {
 // ---- lists
 
 int champ_liste::position() { return acces().position; }
-int champ_liste::lignes() { return static_cast<int>(acces().lignes.size()); }
 std::string champ_liste::ligne(int k) { return base::element(acces().lignes, k, nom_court()); }
 
 void champ_liste::position(base::entier32 k) {

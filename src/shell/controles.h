@@ -205,7 +205,6 @@ class champ_liste : public controle {
         : champ_liste(genre::liste, p, nom, place, d, indice) {}
     int position();
     void position(base::entier32 k);
-    int lignes();
     std::string ligne(int k);
     void ajoute(const std::string& ligne);
     void ajoute(std::vector<std::string> lignes);
@@ -334,12 +333,10 @@ class minuteur : public controle {
     bool marche();
     /// On what is on already, nothing changes.
     void marche(bool oui);
-    int intervalle();
     /// Below 1 counts as 1; a new interval counts from its setting.
     void intervalle(base::entier32 ms);
     void au_tic(std::function<void()> f);
     bool regarde_marche() const;
-    int regarde_intervalle() const;
     void tic(); ///< called by the event loop when it is due
 
   private:

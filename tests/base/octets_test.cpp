@@ -1,8 +1,5 @@
 #include "base/octets.h"
-#include "echec.h"
-
-#include <cstdlib>
-#include <fstream>
+#include "essai.h"
 
 TEST(Octets, EveryByteSurvivesALoadAndASave) {
     std::string tous;
@@ -14,40 +11,29 @@ TEST(Octets, EveryByteSurvivesALoadAndASave) {
 
 TEST(Octets, ACharacterWithoutAByteBecomesAQuestionMark) {
     EXPECT_EQ(base::vers_1252("α Vég\u00e9tal 🔭 \u0080"), "? V\xE9g\xE9tal ? ?");
-    EXPECT_EQ(base::vers_1252("\xC3"), "?");
-    EXPECT_EQ(base::vers_1252("\xE2\x82"), "??");
-    EXPECT_EQ(base::vers_1252("\xFF"
-                              "a"),
-              "?a");
+    for (const auto& [malforme, attendu] : {std::pair{"\xC3", "?"},
+                                            {"\xE2\x82", "??"},
+                                            {"\xFF"
+                                             "a",
+                                             "?a"},
+                                            {"\xC3(", "?("}})
+        EXPECT_EQ(base::vers_1252(malforme), attendu);
 }
 
-class Fichiers : public testing::Test {
-  protected:
-    void SetUp() override {
-        std::string modele = (std::filesystem::temp_directory_path() / "velmoria-XXXXXX").string();
-        ASSERT_NE(mkdtemp(modele.data()), nullptr);
-        dossier_ = modele;
-    }
-    void TearDown() override { std::filesystem::remove_all(dossier_); }
-    std::filesystem::path dossier_;
-};
-
-TEST_F(Fichiers, AreWrittenAndReadWhole) {
+TEST(Fichiers, AreWrittenAndReadWhole) {
+    const essais::dossier_prive dossier;
     const std::string contenu{"a\r\n\0b\n", 6};
-    base::ecrit_fichier(dossier_ / "f", "a much longer text that must go");
-    base::ecrit_fichier(dossier_ / "f", contenu);
-    EXPECT_EQ(base::lit_fichier(dossier_ / "f"), contenu);
-}
-
-TEST_F(Fichiers, MissingUnreadableOrUnwritableIsFatalAndNamesTheFile) {
-    const auto nomme = [](const std::string& detail, const char* nom) {
-        EXPECT_NE(detail.find(nom), std::string::npos) << detail;
+    base::ecrit_fichier(dossier.chemin / "f", "a much longer text that must go");
+    base::ecrit_fichier(dossier.chemin / "f", contenu);
+    EXPECT_EQ(base::lit_fichier(dossier.chemin / "f"), contenu);
+    // Missing, unreadable or unwritable: the message names the file.
+    const auto nomme = [](const std::filesystem::path& chemin, auto f) {
+        const auto detail = essais::attend_echec(base::cause::fichier_introuvable, [&] { f(chemin); });
+        EXPECT_NE(detail.find(chemin.string()), std::string::npos) << detail;
     };
-    const auto c = base::cause::fichier_introuvable;
-    nomme(essais::attend_echec(c, [&] { base::lit_fichier(dossier_ / "absent.ini"); }), "absent.ini");
-    nomme(essais::attend_echec(c, [&] { base::lit_fichier(dossier_); }), dossier_.c_str());
-    nomme(essais::attend_echec(c, [&] { base::ecrit_fichier(dossier_ / "sans" / "dossier.ini", "x"); }),
-          "dossier.ini");
-    nomme(essais::attend_echec(c, [&] { base::ecrit_fichier("/dev/full", std::string(100'000, 'x')); }),
-          "/dev/full");
+    nomme(dossier.chemin / "absent.ini", base::lit_fichier);
+    nomme(dossier.chemin, base::lit_fichier);
+    const auto ecrit = [](const auto& chemin) { base::ecrit_fichier(chemin, std::string(100'000, 'x')); };
+    nomme(dossier.chemin / "sans/dossier.ini", ecrit);
+    nomme("/dev/full", ecrit);
 }

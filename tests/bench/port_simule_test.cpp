@@ -90,22 +90,4 @@ TEST_F(banc_port, RemembersTheLastWritesInOrder) {
     EXPECT_EQ(tout.back(), (ecriture{888, (n + 9) % 251}));
 }
 
-TEST_F(banc_port, ShowsTheLinesToItsWitness) {
-    struct : banc::temoin {
-        std::vector<std::pair<int, int>> vues;
-        void lignes(std::uint8_t donnees, std::uint8_t controle) override {
-            vues.emplace_back(donnees, controle);
-        }
-    } temoin;
-    port.observe(&temoin);
-    port.ecrit(888, 12);
-    port.ecrit(890, 11);
-    ASSERT_TRUE(port.presente(143));
-    port.ecrit(888, 8);
-    port.observe(nullptr);
-    port.ecrit(888, 0);
-    EXPECT_EQ(temoin.vues,
-              (std::vector<std::pair<int, int>>{{12, 0}, {12, 11}, {12 + 128, 15}, {8 + 128, 15}}));
-}
-
 } // namespace

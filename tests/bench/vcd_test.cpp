@@ -109,14 +109,12 @@ TEST_F(Vcd, IsCompleteWhenItsOwnerGoesAndAfterANewStart) {
 }
 
 TEST_F(Vcd, AFailureIsToldAndEndsTheRecordingOnly) {
-    EXPECT_FALSE(enregistreur.ouvre(fichier + "/absent/x.vcd", 0, 0, 1));
-    EXPECT_FALSE(enregistreur.ouvert());
-    EXPECT_FALSE(enregistreur.note(1, 4, 1));
-    EXPECT_TRUE(enregistreur.ferme());
-
-    EXPECT_FALSE(enregistreur.ouvre("/dev/full", 0, 0, 1));
-    EXPECT_FALSE(enregistreur.ouvert());
-
+    for (const auto& impossible : {fichier + "/absent/x.vcd", std::string{"/dev/full"}}) {
+        EXPECT_FALSE(enregistreur.ouvre(impossible, 0, 0, 1));
+        EXPECT_FALSE(enregistreur.ouvert());
+        EXPECT_FALSE(enregistreur.note(1, 4, 1));
+        EXPECT_TRUE(enregistreur.ferme());
+    }
     ASSERT_TRUE(enregistreur.ouvre(fichier, 0, 0, 1)); // and the next one is whole again
     EXPECT_TRUE(enregistreur.ferme());
     EXPECT_TRUE(verifie("--fin 0"));

@@ -1,23 +1,13 @@
 #include "catalogue/catalogue.h"
-#include "echec.h"
-#include "machine_essai.h"
+#include "essai.h"
 
 namespace {
 
-using base::cause;
 using base::entier32;
-using essais::attend_echec;
-using essais::machine_essai;
-
-std::string objets(std::size_t n) {
-    std::string t;
-    for (std::size_t i = 1; i <= n; ++i)
-        t.append("X").append(std::to_string(i)).append(",GL,1,2\r\n");
-    return t;
-}
+using essais::machine;
 
 TEST(catalogue, enregistrements) {
-    const machine_essai m;
+    const machine m;
     m.fichier("ic.cat", "\"Gamma, dite la Belle\" , GL,3305,-7500\r\nM 1,DN\r\n2.5,-3.5,\"é\",ST,1,2");
     catalogue::table<catalogue::objets_panneau, entier32> panneau;
     EXPECT_EQ(catalogue::charge("ic.cat", panneau),
@@ -33,24 +23,8 @@ TEST(catalogue, enregistrements) {
     EXPECT_EQ(carte.dec[1], -3.5);
 }
 
-TEST(catalogue, limites) {
-    const machine_essai m;
-    for (const std::size_t limite : {catalogue::etoiles_panneau, catalogue::objets_panneau,
-                                     catalogue::etoiles_carte, catalogue::objets_carte}) {
-        m.fichier("ngc3.cat", objets(limite));
-        EXPECT_EQ(catalogue::lit("ngc3.cat", limite).size(), limite);
-        m.fichier("ngc3.cat", objets(limite + 1));
-        const auto detail = attend_echec(cause::indice, [&] { catalogue::lit("ngc3.cat", limite); });
-        EXPECT_NE(detail.find("ngc3.cat"), std::string::npos);
-        EXPECT_NE(detail.find(std::to_string(limite + 1)), std::string::npos);
-    }
-    m.fichier("ngc3.cat", objets(2) + "X3,GL,1");
-    attend_echec(cause::fin_de_fichier, [] { catalogue::lit("ngc3.cat", 10); });
-    attend_echec(cause::fichier_introuvable, [] { catalogue::lit("ngc8.cat", 10); });
-}
-
 TEST(catalogue, fichiers_livres) {
-    const machine_essai m;
+    const machine m;
     EXPECT_EQ(catalogue::lit("messier.cat", catalogue::objets_panneau).size(), 110u);
     for (const auto& e : catalogue::entrees)
         for (const auto& a : catalogue::lit(e.fichier, catalogue::objets_panneau)) {
@@ -68,7 +42,7 @@ TEST(catalogue, fichiers_livres) {
 }
 
 TEST(catalogue, noms) {
-    const machine_essai m;
+    const machine m;
     EXPECT_EQ(catalogue::constellation("And"), "Andromède");
     EXPECT_EQ(catalogue::constellation("and"), "");
     m.fichier("const.cat", "And,Un\r\nOri,Orion\r\nAnd,\"Deux, vraiment\"\r\n");
@@ -84,15 +58,6 @@ TEST(catalogue, noms) {
 
     EXPECT_EQ(catalogue::nom_type("DN"), "NEBULEUSE DIFFUSE");
     EXPECT_EQ(catalogue::nom_type("XX"), "");
-}
-
-TEST(catalogue, photographies) {
-    const machine_essai m;
-    m.fichier("Objets/X 31.jpg", "");
-    std::filesystem::create_directory(m.donnees / "Objets/X1.jpg");
-    EXPECT_TRUE(catalogue::a_photographie("X 31")) << "an empty file counts";
-    for (const char* nom : {"X31", "x 31", "X1", "", "X 31.jpg"})
-        EXPECT_FALSE(catalogue::a_photographie(nom)) << nom;
 }
 
 TEST(catalogue, partage) {

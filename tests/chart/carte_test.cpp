@@ -1,5 +1,3 @@
-#include "base/octets.h"
-#include "catalogue/catalogue.h"
 #include "chart/astres_carte.h"
 #include "chart/etat_carte.h"
 #include "chart/frmCercle_champs.h"
@@ -7,11 +5,7 @@
 #include "chart/frmImage_champs.h"
 #include "chart/redessine.h"
 #include "chart/vue_carte.h"
-#include "echec.h"
-#include "essai_virtuel.h"
-
-#include <cmath>
-#include <numbers>
+#include "essai.h"
 
 namespace {
 
@@ -19,12 +13,8 @@ using base::cause;
 using chart::espece;
 using essais::attend_echec;
 
-class carte : public essais::Virtuel {
+class carte : public essais::Essai {
   protected:
-    void fichier(const std::string& nom, const std::string& contenu) const {
-        base::ecrit_fichier(dossier / "data" / nom, contenu);
-    }
-
     // So many records at a place far from all others.
     void remplit(const std::string& nom, std::size_t n, const char* reste) const {
         std::string t;
@@ -37,30 +27,6 @@ class carte : public essais::Virtuel {
         (etoile ? chart::astres.etoiles[i] : chart::astres.objets[i]) = std::move(a);
     }
 };
-
-// Back from the place to the coordinates, for every object of the delivered catalogues.
-TEST_F(carte, une_projection_se_remonte) {
-    chart::initialise_vue();
-    chart::zoome(7); // where a unit of the chart is finest
-    chart::tourne(-130);
-    chart::offsetx = 250;
-    chart::offsety = -1750;
-    int vus = 0;
-    for (const auto& e : catalogue::entrees)
-        for (const auto& a : catalogue::lit(e.fichier, catalogue::objets_carte)) {
-            const auto p = chart::projette(a.ad, a.dec);
-            const double x = p.x + 0.5 - 4750; // the middle of what is rounded down
-            const double y = p.y + 0.5 - 2750;
-            const double degres = std::hypot(x, y) / 31500 * 90;
-            EXPECT_NEAR(90 - degres, a.dec / 600, 0.003) << a.nom;
-            if (degres < 1)
-                continue;
-            const double angle = std::atan2(y, x) * 180 / std::numbers::pi + 130;
-            EXPECT_NEAR(std::remainder(angle - a.ad / 40, 360), 0, 0.003 * 60 / degres) << a.nom;
-            ++vus;
-        }
-    EXPECT_GT(vus, 8000);
-}
 
 TEST_F(carte, places_remarquables) {
     const struct {
@@ -81,17 +47,6 @@ TEST_F(carte, places_remarquables) {
         EXPECT_EQ(p.y, c.y) << c.ad << " " << c.dec << " " << c.rotation;
     }
     attend_echec(cause::depassement, [] { chart::projette(0, 1e308); });
-}
-
-TEST_F(carte, la_rotation_se_replie) {
-    chart::initialise_vue();
-    for (int i = 1; i <= 36; ++i) {
-        chart::tourne(-10);
-        EXPECT_EQ(chart::rotcercle, i == 36 ? 0 : -10 * i);
-    }
-    for (int i = 0; i < 37; ++i)
-        chart::tourne(10);
-    EXPECT_EQ(chart::rotcercle, 10);
 }
 
 TEST_F(carte, pris_dans_un_carre) {
@@ -152,25 +107,6 @@ TEST_F(carte, limites_des_tables) {
     attend_echec(cause::fin_de_fichier, chart::redessine);
     fichier("vconst.cat", "0,-1");
     EXPECT_NE(attend_echec(cause::indice, chart::redessine).find("vconst.cat"), std::string::npos);
-}
-
-// Delivered figures and objects: what is drawn, by count.
-TEST_F(carte, le_ciel_livre) {
-    frmCercle::fiche.montre();
-    const auto compte = [](plateforme::primitive::forme f) {
-        int n = 0;
-        for (const auto& p : frmCercle::ciel.regarde_toile().primitives())
-            n += p.quoi == f;
-        return n;
-    };
-    using forme = plateforme::primitive::forme;
-    EXPECT_EQ(compte(forme::efface), 1);
-    EXPECT_EQ(compte(forme::cercle), 3 + 192 + 110);
-    EXPECT_EQ(compte(forme::ligne), 2 + 177);
-    EXPECT_EQ(compte(forme::texte), 0);
-    frmCercle::mnuZQuatre.clic();
-    EXPECT_GT(compte(forme::texte), 100);
-    EXPECT_LT(compte(forme::texte), 192 - 28) << "an alpha has no letter";
 }
 
 TEST_F(carte, taille_des_photographies) {

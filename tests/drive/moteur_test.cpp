@@ -1,8 +1,8 @@
 #include "drive/cmd_moteur.h"
 
-#include "base/octets.h"
-#include "echec.h"
-#include "essai_virtuel.h"
+#include "drive/raquette.h"
+#include "essai.h"
+#include "piloting/frmraquette_champs.h"
 #include "platform/plateforme.h"
 #include "sky/position.h"
 
@@ -12,11 +12,28 @@ using essais::attend_echec;
 
 namespace {
 
-class Moteur : public essais::Virtuel {
+// Writes down every access, in order: L888 a read, E888=5 a write.
+class port_note final : public plateforme::port {
+  public:
+    explicit port_note(banc::port_simule& p) : port_(p) {}
+    void ecrit(int adresse, std::uint8_t valeur) override {
+        journal += "E" + std::to_string(adresse) + "=" + std::to_string(valeur) + " ";
+        port_.ecrit(adresse, valeur);
+    }
+    std::uint8_t lit(int adresse) override {
+        journal += "L" + std::to_string(adresse) + " ";
+        return port_.lit(adresse);
+    }
+    std::string journal;
+
+  private:
+    banc::port_simule& port_;
+};
+
+class Moteur : public essais::Essai {
   protected:
     void inversion(const char* az, const char* alt) {
-        base::ecrit_fichier(plateforme::courante.donnees / "inversion.ini",
-                            std::string{az} + "\r\n" + alt + "\r\n");
+        fichier("inversion.ini", std::string{az} + "\r\n" + alt + "\r\n");
     }
     std::string ecritures(std::size_t n) {
         std::string s;
@@ -68,49 +85,13 @@ TEST_F(Moteur, EachRoutineKeepsItsOwnTableOfSenses) {
     EXPECT_FALSE(static_cast<bool>(sensplus));
 }
 
-TEST_F(Moteur, InversionFileThatIsShortOrGoneIsFatal) {
-    cmdsens = 1;
-    base::ecrit_fichier(plateforme::courante.donnees / "inversion.ini", "Vrai\r\n");
-    EXPECT_NE(attend_echec(cause::fin_de_fichier, fixesens).find("inversion.ini"), std::string::npos);
-    std::filesystem::remove(plateforme::courante.donnees / "inversion.ini");
-    attend_echec(cause::fichier_introuvable, fixesens);
-}
-
-TEST_F(Moteur, SpeedComesFromTheClassOfTheCommandsAxis) {
-    for (int i = 0; i < 10; ++i) {
-        vitessealtaz[static_cast<std::size_t>(i)] = 100 + i;
-        vitesseequa[static_cast<std::size_t>(i)] = 200 + i;
-    }
-    classevitaz = 4;
-    classevitalt = 1;
-    cmdsens = 2;
-    tempoaltaz();
-    EXPECT_EQ(tempopas, 104);
-    cmdsens = 3;
-    tempoequa();
-    EXPECT_EQ(tempopas, 206);
-    cmdsens = 0;
-    tempoequa();
-    EXPECT_EQ(tempopas, 206) << "no axis, no change";
-    cmdsens = 1;
-    for (int classe : {-1, 5}) {
-        classevitaz = classe;
-        attend_echec(cause::indice, tempoaltaz);
-    }
-    cmdsens = 4;
-    classevitalt = 5;
-    attend_echec(cause::indice, tempoequa);
-}
-
 TEST_F(Moteur, ACountIsNPlusOnePasses) {
-    attente(0);
-    EXPECT_EQ(boucle.temps(), 30);
-    attente(999);
-    EXPECT_EQ(boucle.temps(), 30 + 30'000);
-    attente(-1);
-    EXPECT_EQ(boucle.temps(), 30 + 30'000);
-    attente(entier32::maximum);
-    EXPECT_EQ(boucle.temps(), 30 + 30'000 + 30 * (std::int64_t{1} << 31));
+    std::int64_t attendu = 0;
+    for (const auto& [n, passes] :
+         {std::pair{0, std::int64_t{1}}, {999, 1000}, {-1, 0}, {2147483647, 1LL << 31}}) {
+        attente(n);
+        EXPECT_EQ(boucle.temps(), attendu += 30 * passes);
+    }
 }
 
 TEST_F(Moteur, ABurstGoesTheWayOfItsDifference) {
@@ -154,40 +135,6 @@ TEST_F(Moteur, ABurstGoesTheWayOfItsDifference) {
     attend_echec(cause::depassement, rafalealt);
 }
 
-TEST_F(Moteur, ABurstReadsItsDirectionAtEachWriteAndItsCountOnce) {
-    azplus = 8;
-    general::ecartaz = 1;
-    nbpasaz = 3;
-    tempoaz = 0;
-    boucle.programme(3, "", [] {
-        bitsens = 0;
-        nbpasaz = 100;
-    });
-    rafaleaz();
-    EXPECT_EQ(ecritures(9), "8 4 0 4 0 4 ");
-}
-
-TEST_F(Moteur, TheSiderealDriveSendsItsStepsWhateverTheCommandBecomes) {
-    inversion("Faux", "Faux");
-    vitesseequa[0] = 0;
-    classevitaz = 0;
-    cmdsens = 1;
-    nbpassuivi = 3;
-    boucle.programme(30, "", [] { cmdsens = 0; });
-    pasequa();
-    EXPECT_EQ(ecritures(9), "8 12 8 12 8 12 ") << "the bits stay, though the command is gone";
-    port.oublie_ecritures();
-    pasequa();
-    EXPECT_EQ(ecritures(9), "0 0 0 0 0 0 ") << "started without a command it moves nothing";
-    // Nothing to send: the inversion file is read all the same.
-    port.oublie_ecritures();
-    nbpassuivi = -1;
-    inversion("Vrai", "Faux");
-    pasequa();
-    EXPECT_EQ(ecritures(9), "");
-    EXPECT_TRUE(static_cast<bool>(invaz));
-}
-
 TEST_F(Moteur, StepsBeyondTheCounterAreFatal) {
     compteaz = entier32::maximum;
     sensplus = true;
@@ -195,4 +142,52 @@ TEST_F(Moteur, StepsBeyondTheCounterAreFatal) {
     comptealt = entier32::minimum;
     sensplus = false;
     attend_echec(cause::depassement, comptepasalt);
+}
+
+// ---- the paddle
+
+// The port is read anew before and after each step, the data register first. A motion started during a press
+// changes the bits: they act at the next use, and the baseline follows what is driven.
+TEST_F(Moteur, APressReadsThePortAndTheBitsAtEachUse) {
+    port_note note{port};
+    plateforme::courante.port = &note;
+    vitessemanu = {833338, 166666, 33334, 833338, 166666, 33334};
+    frmraquette::fiche.charge();
+    slotaltr = 16;
+    azplus = 8;
+    plateforme::Out32(plateforme::registre_controle, 11);
+    const auto appuie = [&](int code, int lache_apres) {
+        ASSERT_TRUE(port.presente(code));
+        boucle.programme(lache_apres, "", [this] { ASSERT_TRUE(port.presente(11)); });
+        note.journal.clear();
+        scruteraquette();
+    };
+    boucle.programme(1, "", [] {
+        bitsens = 8;
+        bitpas = 4;
+        tempopaddle = 0;
+    });
+    const auto avant = boucle.temps();
+    appuie(2, 17 * 30 + 30);
+    EXPECT_EQ(note.journal, "L888 L890 L888 L890 E888=0 E888=12 L888 L890 ");
+    EXPECT_EQ(baselinepaddle, 12);
+    EXPECT_EQ(boucle.temps() - avant, 17 * 30 + 30);
+    EXPECT_EQ(jeucourantalt, 1);
+    note.journal.clear();
+    scruteraquette();
+    EXPECT_EQ(note.journal, "L888 L890 ") << "no key: nothing is written";
+    EXPECT_EQ(jeucourantalt, 1) << "only a press clears it";
+    // A key gone between the scan and the loop makes no step.
+    codepaddle = 13;
+    jeucourantaz = 5;
+    note.journal.clear();
+    paddleaz();
+    EXPECT_EQ(note.journal, "L888 L890 ");
+    EXPECT_EQ(jeucourantaz, 0) << "cleared when a loop starts";
+    const auto deborde = [&](int code) { attend_echec(cause::depassement, [&] { appuie(code, 1); }); };
+    pasencodeaz = entier32::maximum;
+    deborde(9);
+    comptealt = entier32::minimum;
+    altplus = 2;
+    deborde(10);
 }

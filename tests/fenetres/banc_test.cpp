@@ -3,14 +3,17 @@
 #include "fenetres.h"
 
 #include "base/octets.h"
+#include "bench/composition.h"
 #include "bench/fenetre_banc.h"
 #include "piloting/frmaltazpilot_champs.h"
 #include "shell/frmcoord_champs.h"
+#include "shell/frminterface_champs.h"
 #include "sky/heure.h"
 #include "sky/position.h"
 
 #include <QLabel>
 #include <QPushButton>
+#include <QSlider>
 #include <QTemporaryDir>
 #include <sstream>
 
@@ -28,25 +31,24 @@ struct machine_du_banc {
                               [] { return int{general::decalageheure.valeur()}; }};
 
     void attend(std::int64_t ns) {
-        etabli.commence_attente(ns);
         maintenant += ns + retard;
         ++attentes;
     }
-    void cession_finie() {
-        etabli.cession_finie();
-        if (attentes == arret)
-            frmaltazpilot::cmddstop.clic();
+    plateforme::qt::composition composition() {
+        auto c = banc::sur_le_banc(etabli, civile, *this);
+        c.apres_cession = [this, fin = c.apres_cession] {
+            fin();
+            if (attentes == arret)
+                frmaltazpilot::cmddstop.clic();
+        };
+        c.donnees = DONNEES;
+        return c;
     }
 };
 
 class banc_d_essai : protected machine_du_banc, public essais::fenetres {
   protected:
-    banc_d_essai()
-        : fenetres({.port = etabli.port(),
-                    .horloge = civile,
-                    .attente = [this](std::int64_t ns) { attend(ns); },
-                    .apres_cession = [this] { cession_finie(); },
-                    .donnees = DONNEES}) {}
+    banc_d_essai() : fenetres(composition()) {}
     void SetUp() override {
         fenetres::SetUp();
         fenetre = std::make_unique<banc::fenetre_banc>(etabli, civile);
@@ -70,28 +72,35 @@ class banc_d_essai : protected machine_du_banc, public essais::fenetres {
         fenetre->rafraichit();
     }
 
+    int code() { return etabli.port().code(); }
+
     std::unique_ptr<banc::fenetre_banc> fenetre;
 };
 
 TEST_F(banc_d_essai, its_clock_is_set_by_typing) {
-    const auto cette_nuit = lu("heure");
-    EXPECT_EQ(cette_nuit.substr(0, 10), "2000-08-15") << "the almanac's year";
+    EXPECT_EQ(lu("heure").substr(0, 10), "2000-08-15") << "the almanac's year";
+    const auto regle = [this](const char* texte) {
+        ecrit("date", texte);
+        QTest::keyClick(le<QLineEdit>("date"), Qt::Key_Return);
+        return lu("heure");
+    };
     ecrit("date", "2001-12-24 23:58:30");
-    EXPECT_EQ(lu("heure"), cette_nuit);
     presse("regle");
     EXPECT_EQ(lu("heure"), "2001-12-24 23:58:30");
     clique("frminterface", "barchoix(2)");
     EXPECT_TRUE(QTest::qWaitFor([] { return frmcoord::txth.lit() == "22"; })) << "the program follows";
     EXPECT_EQ(frmcoord::cbmois.position(), 11);
-    for (const auto* faux : {"2001-02-29 12:00:00", "demain"}) {
-        ecrit("date", faux);
-        QTest::keyClick(le<QLineEdit>("date"), Qt::Key_Return);
-        EXPECT_EQ(lu("heure"), "2001-12-24 23:58:30") << faux;
+    for (const auto* faux :
+         {"2001-02-29 12:00:00", "demain", "2001-02-03", "2001-02-03 04", "2001-13-01 00:00",
+          "2001-02-03 24:00", "2001-02-03 04:60", "2001-02-03 04:05:60", "2001-02-03 04:05:06.12",
+          "2001-02-03 04:05:06.123.", "2001-02-03 04:05:06.1234", "10000-02-03 04:05",
+          "2001/02-03 04:05"
+          "2001-02-03 04:05 "}) {
+        EXPECT_EQ(regle(faux), "2001-12-24 23:58:30") << faux;
         EXPECT_EQ(le<QLineEdit>("date")->selectedText().toStdString(), faux);
     }
-    ecrit("date", "2000-02-29 01:02");
-    QTest::keyClick(le<QLineEdit>("date"), Qt::Key_Return);
-    EXPECT_EQ(lu("heure"), "2000-02-29 01:02:00");
+    EXPECT_EQ(regle("2000-02-29 01:02:03.999"), "2000-02-29 01:02:03");
+    EXPECT_EQ(regle("2000-02-29 01:02"), "2000-02-29 01:02:00");
     presse("cette_nuit");
     EXPECT_EQ(lu("heure").substr(0, 10), "2000-08-15");
 }
@@ -169,6 +178,79 @@ TEST_F(banc_d_essai, counts_mount_and_lateness_start_again) {
     avance(1);
     EXPECT_EQ(lu("sens8_az"), "1");
     EXPECT_EQ(lu("retard"), "1,5 µs");
+}
+
+// ---- the paddle
+
+TEST_F(banc_d_essai, a_held_key_turns_the_mount_until_it_is_released) {
+    frminterface::barchoix_boutons(1).clic();
+    frminterface::barequa_boutons(2).clic();
+    QTest::mousePress(le<QPushButton>("raquette_droite"), Qt::LeftButton);
+    EXPECT_EQ(code(), 9) << "medium speed at first";
+    // The scan comes within its 100 ms, and its loop runs inside; released from a yield of it.
+    QTimer::singleShot(400,
+                       [this] { QTest::mouseRelease(le<QPushButton>("raquette_droite"), Qt::LeftButton); });
+    QTest::qWait(600);
+    const auto n = etabli.mount().compte();
+    EXPECT_GT(n.az0, 0u);
+    EXPECT_EQ(n.az8 + n.alt0 + n.alt2, 0u);
+    QTest::qWait(250);
+    EXPECT_EQ(etabli.mount().compte(), n) << "released: no further pulse";
+    EXPECT_EQ(code(), 11);
+}
+
+TEST_F(banc_d_essai, arrows_and_switches_make_the_codes_of_the_hardware) {
+    const struct {
+        Qt::Key touche;
+        int codes[3]; // slow, medium, fast
+    } cas[] = {{Qt::Key_Up, {10, 3, 2}},
+               {Qt::Key_Down, {26, 19, 18}},
+               {Qt::Key_Right, {15, 9, 13}},
+               {Qt::Key_Left, {143, 137, 141}}};
+    auto* az = le<QSlider>("raquette_vitesse_az");
+    for (int v = 0; v < 3; ++v) {
+        az->setValue(v);
+        le<QSlider>("raquette_vitesse_alt")->setValue(v);
+        for (const auto& c : cas) {
+            QTest::keyPress(fenetre.get(), c.touche);
+            QKeyEvent encore{QEvent::KeyRelease, c.touche, Qt::NoModifier, {}, true};
+            QApplication::sendEvent(fenetre.get(), &encore);
+            EXPECT_EQ(code(), c.codes[v]) << "held, though it repeats";
+            QTest::keyRelease(fenetre.get(), c.touche);
+            EXPECT_EQ(code(), 11);
+        }
+    }
+    // The switch turned during a press changes the code; an arrow on a focused slider is still the paddle's.
+    QTest::keyPress(az, Qt::Key_Left);
+    EXPECT_EQ(code(), 141);
+    az->setValue(0);
+    EXPECT_EQ(code(), 143);
+    EXPECT_EQ(az->value(), 0);
+    QTest::keyRelease(az, Qt::Key_Left);
+}
+
+TEST_F(banc_d_essai, a_key_is_let_go_when_the_window_is_left_or_closed) {
+    const auto devant = [](QWidget* w) {
+        w->show();
+        w->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(w));
+    };
+    QTest::keyPress(fenetre.get(), Qt::Key_Up);
+    EXPECT_NE(code(), 11);
+    devant(principale());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return code() == 11; }));
+
+    devant(fenetre.get());
+    QTest::mousePress(le<QPushButton>("raquette_bas"), Qt::LeftButton);
+    EXPECT_NE(code(), 11);
+    fenetre->close();
+    EXPECT_EQ(code(), 11);
+
+    devant(fenetre.get());
+    auto* b = le<QPushButton>("raquette_haut");
+    QTest::mousePress(b, Qt::LeftButton);
+    QTest::mouseRelease(b, Qt::LeftButton, {}, QPoint{-80, 300}); // outside the key
+    EXPECT_EQ(code(), 11);
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-// From the start to idle, the modes by toolbar and by menu, and the ends of the process.
+// From the start to idle, the menus, the messages and the ends of the process.
 #include "fenetres.h"
 
 #include "base/fatale.h"
@@ -6,7 +6,6 @@
 #include "shell/frminterface_champs.h"
 
 #include <QAction>
-#include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
 
@@ -16,8 +15,8 @@ using namespace frminterface;
 
 class demarrage : public essais::fenetres {
   protected:
+    using essais::fenetres::fenetres;
     bool montree(const char* barre) { return piece("frminterface", barre)->isVisible(); }
-
     QMenu* menu(const char* nom) { return principale()->findChild<QMenu*>(nom); }
 
     // Opens "Télescope" with the mouse and gives the place of an entry there.
@@ -33,76 +32,50 @@ class demarrage : public essais::fenetres {
     }
 };
 
-TEST_F(demarrage, only_the_choice_bar_and_an_untouched_port) {
-    EXPECT_TRUE(principale()->isVisible());
+TEST_F(demarrage, the_main_frame_and_its_menu) {
     EXPECT_EQ(principale()->windowTitle(), "Velmoria : Pilotage de télescopes");
     EXPECT_TRUE(montree("barchoix"));
     for (const auto* barre : {"bargeneral", "barequa", "baraltaz"})
         EXPECT_FALSE(montree(barre)) << barre;
-    EXPECT_FALSE(Timer.regarde_marche());
-    EXPECT_FALSE(heuretimer.regarde_marche());
     EXPECT_TRUE(port.ecritures.empty());
     EXPECT_FALSE(principale()->findChild<QAction*>("mnusuivi")->isEnabled());
-    for (const auto* w : QApplication::topLevelWidgets()) {
+    for (const auto* w : QApplication::topLevelWidgets())
         EXPECT_FALSE(w->objectName() == "frmintro" && w->isVisible());
-    }
-}
-
-TEST_F(demarrage, the_menu_in_its_order) {
     QStringList lu;
     for (const auto* a : principale()->findChild<QMenuBar*>()->actions())
         lu << a->text();
-    EXPECT_EQ(lu.join('/'), "Quitter/Télescope/Observations/Aide/A propos de ");
-    lu.clear();
     for (const auto* m : {menu("Equatorial.menu"), menu("altazimutal.menu")})
         for (const auto* a : m->actions())
             lu << a->objectName();
-    EXPECT_EQ(lu.join('/'),
-              "mnupilotageequa/mnupointequa/mnuparaequa/mnupilotagealtaz/mnupointaltaz/mnusuivi/"
-              "mnuparaaltaz");
+    EXPECT_EQ(lu.join('/'), "Quitter/Télescope/Observations/Aide/A propos de /mnupilotageequa/mnupointequa/"
+                            "mnuparaequa/mnupilotagealtaz/mnupointaltaz/mnusuivi/mnuparaaltaz");
 }
 
-TEST_F(demarrage, the_choice_bar_enters_a_mode_and_goes) {
-    clique("frminterface", "barchoix(1)");
-    EXPECT_TRUE(montree("barequa"));
-    EXPECT_FALSE(montree("baraltaz"));
-    EXPECT_FALSE(montree("barchoix"));
-}
-
-TEST_F(demarrage, computer_and_paddle_control_by_the_toolbar) {
-    clique("frminterface", "barchoix(2)");
-    EXPECT_TRUE(montree("baraltaz"));
-    clique("frminterface", "baraltaz(2)");
-    clique("frminterface", "baraltaz(1)");
-    const std::vector<std::pair<int, int>> attendues{{890, 11}, {888, 0}, {890, 1}, {888, 0}};
-    EXPECT_EQ(port.ecritures, attendues);
-}
-
-TEST_F(demarrage, pointing_at_an_entry_opens_its_menu_and_runs_nothing) {
-    const auto place = dans_telescope("Equatorial");
-    QTest::mouseMove(menu("mnutelescope.menu"), place);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return menu("Equatorial.menu")->isVisible(); }));
+// An entry that has children and a command: pointing at it opens its menu, a click runs its command.
+TEST_F(demarrage, entries_with_children_by_the_mouse) {
+    const auto equatorial = dans_telescope("Equatorial");
+    auto* ouvert = menu("mnutelescope.menu");
+    auto* sous = menu("Equatorial.menu");
+    QTest::mouseMove(ouvert, equatorial);
+    ASSERT_TRUE(QTest::qWaitFor([sous] { return sous->isVisible(); }));
+    choisit(sous->actions().front());
+    EXPECT_TRUE(piece("frmequapilot")->isVisible());
     EXPECT_FALSE(montree("barequa"));
-}
-
-TEST_F(demarrage, a_click_on_an_entry_with_children_runs_its_command) {
     for (const auto& [nom, barre] : {std::pair{"Equatorial", "barequa"}, {"altazimutal", "baraltaz"}}) {
         const auto place = dans_telescope(nom);
-        QTest::mousePress(menu("mnutelescope.menu"), Qt::LeftButton, {}, place);
+        QTest::mousePress(ouvert, Qt::LeftButton, {}, place);
         EXPECT_FALSE(montree(barre)) << "at the press already";
-        QTest::mouseRelease(menu("mnutelescope.menu"), Qt::LeftButton, {}, place);
+        QTest::mouseRelease(ouvert, Qt::LeftButton, {}, place);
         EXPECT_TRUE(montree(barre));
         EXPECT_FALSE(QApplication::activePopupWidget());
     }
-    EXPECT_TRUE(montree("barchoix")) << "the menu leaves the choice bar alone";
 }
 
-TEST_F(demarrage, the_return_key_runs_the_command_and_the_arrow_opens_the_menu) {
+TEST_F(demarrage, entries_with_children_by_the_keys) {
     dans_telescope("altazimutal");
     auto* ouvert = menu("mnutelescope.menu");
-    QTest::keyClick(ouvert, Qt::Key_Down);
-    QTest::keyClick(ouvert, Qt::Key_Down);
-    QTest::keyClick(ouvert, Qt::Key_Right);
+    for (const auto touche : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Right})
+        QTest::keyClick(ouvert, touche);
     EXPECT_TRUE(menu("altazimutal.menu")->isVisible());
     EXPECT_FALSE(montree("baraltaz"));
     QTest::keyClick(menu("altazimutal.menu"), Qt::Key_Left);
@@ -111,15 +84,7 @@ TEST_F(demarrage, the_return_key_runs_the_command_and_the_arrow_opens_the_menu) 
     EXPECT_FALSE(QApplication::activePopupWidget());
 }
 
-TEST_F(demarrage, a_panel_by_the_menu) {
-    const auto place = dans_telescope("Equatorial");
-    QTest::mouseMove(menu("mnutelescope.menu"), place);
-    auto* sous = menu("Equatorial.menu");
-    ASSERT_TRUE(QTest::qWaitFor([sous] { return sous->isVisible(); }));
-    QTest::mouseClick(sous, Qt::LeftButton, {}, sous->actionGeometry(sous->actions().front()).center());
-    EXPECT_TRUE(piece("frmequapilot")->isVisible());
-    EXPECT_FALSE(montree("barequa"));
-}
+// ---- boxes, and ends of the process: what the port saw is told on the way out
 
 // Calls `f` once a message box stands.
 void a_la_boite(std::function<void(QMessageBox&)> f) {
@@ -131,13 +96,16 @@ void a_la_boite(std::function<void(QMessageBox&)> f) {
     });
 }
 
-// ---- ends of the process: what the port saw is told on the way out
+void dit_et_accepte(QMessageBox& boite) {
+    std::fprintf(stderr, "%s | %s | %d\n", qPrintable(boite.objectName()), qPrintable(boite.text()),
+                 QApplication::activePopupWidget() != nullptr);
+    QTest::mouseClick(boite.button(QMessageBox::Ok), Qt::LeftButton);
+}
 
 class fin_du_programme : public demarrage {
   protected:
-    void SetUp() override {
+    explicit fin_du_programme(const char* donnees = DONNEES) : demarrage("1", donnees) {
         GTEST_FLAG_SET(death_test_style, "threadsafe");
-        demarrage::SetUp();
         plateforme::qt::a_la_fin([this] {
             std::fprintf(stderr, "fin :");
             for (const auto& [registre, valeur] : port.ecritures)
@@ -145,26 +113,16 @@ class fin_du_programme : public demarrage {
             std::fprintf(stderr, " .\n");
         });
     }
+    void ordinateur() {
+        clique("frminterface", "barchoix(2)");
+        clique("frminterface", "baraltaz(1)");
+    }
 };
 
-TEST_F(fin_du_programme, quitter_releases_the_port) {
-    EXPECT_EXIT(
-        {
-            clique("frminterface", "barchoix(2)");
-            clique("frminterface", "baraltaz(1)");
-            principale()->findChild<QAction*>("Quitter")->trigger();
-        },
-        testing::ExitedWithCode(0), "fin : 890=1 888=0 890=0 \\.");
-}
-
-TEST_F(fin_du_programme, the_close_box_leaves_the_port_as_it_is) {
-    EXPECT_EXIT(
-        {
-            clique("frminterface", "barchoix(2)");
-            clique("frminterface", "baraltaz(1)");
-            principale()->close();
-        },
-        testing::ExitedWithCode(0), "fin : 890=1 888=0 \\.");
+TEST_F(fin_du_programme, quitter_releases_the_port_and_the_close_box_leaves_it) {
+    EXPECT_EXIT((ordinateur(), principale()->findChild<QAction*>("Quitter")->trigger()),
+                testing::ExitedWithCode(0), "fin : 890=1 888=0 890=0 \\.");
+    EXPECT_EXIT((ordinateur(), principale()->close()), testing::ExitedWithCode(0), "fin : 890=1 888=0 \\.");
 }
 
 // While the box stands, neither an act nor a timer moves anything, and an open popup has gone.
@@ -175,19 +133,22 @@ TEST_F(fin_du_programme, a_failure_shows_one_box_freezes_the_program_and_ends_it
         a_la_boite([](QMessageBox& boite) {
             baraltaz_boutons(1).clic();
             Quitter.clic();
-            std::fprintf(stderr, "%s | %s | %d\n", qPrintable(boite.windowTitle()), qPrintable(boite.text()),
-                         QApplication::activePopupWidget() != nullptr);
-            QTest::mouseClick(boite.button(QMessageBox::Ok), Qt::LeftButton);
+            dit_et_accepte(boite);
         });
         base::fatale(base::cause::division_par_zero, "essai");
     };
-    EXPECT_EXIT(echoue(), testing::ExitedWithCode(1), "Velmoria . division par zéro : essai . 0\nfin : \\.");
+    EXPECT_EXIT(echoue(), testing::ExitedWithCode(1), "fatale . division par zéro : essai . 0\nfin : \\.");
+    const auto echoue_deux_fois = [] {
+        a_la_boite([](QMessageBox&) { base::fatale(base::cause::depassement, "seconde"); });
+        base::fatale(base::cause::division_par_zero, "essai");
+    };
+    EXPECT_EXIT(echoue_deux_fois(), testing::ExitedWithCode(1), "capacité : seconde\nfin : \\.");
 }
 
-class sans_donnees : public essais::fenetres {
+class sans_donnees : public fin_du_programme {
   protected:
-    sans_donnees() : fenetres("1", "/nulle-part") {}
-    void SetUp() override { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
+    sans_donnees() : fin_du_programme("/nulle-part") {}
+    void SetUp() override {}
 };
 
 TEST_F(sans_donnees, the_box_names_the_file_and_lies_under_no_splash) {
@@ -196,21 +157,41 @@ TEST_F(sans_donnees, the_box_names_the_file_and_lies_under_no_splash) {
             for (const auto* w : QApplication::topLevelWidgets())
                 if (w != &boite && w->isVisible())
                     std::fprintf(stderr, "%s\n", qPrintable(w->objectName()));
-            std::fprintf(stderr, "%s\n", qPrintable(boite.text()));
-            boite.accept();
+            dit_et_accepte(boite);
         });
         s->demarre();
     };
     EXPECT_EXIT(demarre(), testing::ExitedWithCode(1),
-                "introuvable : [^\n]*\nfichier introuvable : /nulle-part/[^\n]*\n$");
+                "introuvable : [^\n]*\nfatale . fichier introuvable : /nulle-part/[^\n]* . 0\nfin : \\.");
 }
 
-TEST_F(fin_du_programme, a_second_failure_ends_at_once) {
-    const auto echoue = [] {
-        a_la_boite([](QMessageBox&) { base::fatale(base::cause::depassement, "seconde"); });
-        base::fatale(base::cause::division_par_zero, "essai");
+// A notice comes before the main frame; the rest follows once the frame is on screen.
+TEST(lance, shows_its_notice_starts_and_runs_until_the_end) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    static char nom[] = "essais";
+    static char* arguments[] = {nom, nullptr};
+    const auto lance = [] {
+        essais::port_temoin port;
+        essais::horloge_arretee horloge;
+        qAddPreRoutine([] { a_la_boite(dit_et_accepte); });
+        plateforme::qt::lance(1, arguments,
+                              {.port = port,
+                               .horloge = horloge,
+                               .attente = [](std::int64_t) {},
+                               .avis = "<i>un avis</i>",
+                               .ensuite =
+                                   [] {
+                                       std::fprintf(stderr, "ensuite %d\n", fiche.est_visible());
+                                       QTimer::singleShot(0, [] { Quitter.clic(); });
+                                   },
+                               .donnees = DONNEES});
     };
-    EXPECT_EXIT(echoue(), testing::ExitedWithCode(1), "capacité : seconde\nfin : \\.");
+    EXPECT_EXIT(lance(), testing::ExitedWithCode(0), "message . <i>un avis</i> . 0\nensuite 1\n$");
+    const auto refuse = [] {
+        qAddPreRoutine([] { a_la_boite(dit_et_accepte); });
+        std::_Exit(plateforme::qt::refuse(1, arguments, "port occupé"));
+    };
+    EXPECT_EXIT(refuse(), testing::ExitedWithCode(1), "message . port occupé . 0\n$");
 }
 
 } // namespace

@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -56,14 +57,20 @@ class horloge_arretee final : public plateforme::horloge {
 
 class fenetres : public testing::Test {
   protected:
-    explicit fenetres(const char* echelle = "1", std::filesystem::path donnees = DONNEES) {
-        cree(
-            {.port = port, .horloge = horloge, .attente = [](std::int64_t) {}, .donnees = std::move(donnees)},
-            echelle);
-    }
+    explicit fenetres(const char* echelle = "1", std::filesystem::path donnees = DONNEES)
+        : fenetres({.port = port,
+                    .horloge = horloge,
+                    .attente = [](std::int64_t) {},
+                    .donnees = std::move(donnees)},
+                   echelle) {}
 
     /// On a machine of the test's own.
-    explicit fenetres(plateforme::qt::composition c) { cree(std::move(c), "1"); }
+    explicit fenetres(plateforme::qt::composition c, const char* echelle = "1") {
+        qputenv("QT_SCALE_FACTOR", echelle);
+        static char nom[] = "essais";
+        static char* arguments[] = {nom, nullptr};
+        s = std::make_unique<plateforme::qt::seance>(1, arguments, std::move(c));
+    }
 
     void SetUp() override {
         s->demarre();
@@ -74,24 +81,33 @@ class fenetres : public testing::Test {
     QWidget* principale() { return s->vue().principale(); }
 
     /// A widget by its name in the window of a panel; the panel's own for no name.
-    QWidget* piece(const char* fiche, const char* nom = nullptr) {
+    template <class W = QWidget> W* piece(const char* fiche, const char* nom = nullptr) {
         auto* f =
             principale()->objectName() == fiche ? principale() : principale()->findChild<QWidget*>(fiche);
         auto* w = !f || !nom ? f : f->findChild<QWidget*>(nom);
         if (!w)
             ADD_FAILURE() << "no widget " << fiche << (nom ? "." : "") << (nom ? nom : "");
-        return w;
+        return static_cast<W*>(w);
     }
 
     void clique(const char* fiche, const char* nom) { QTest::mouseClick(piece(fiche, nom), Qt::LeftButton); }
+    void presse(const char* fiche, const char* nom) { QTest::mousePress(piece(fiche, nom), Qt::LeftButton); }
+    std::string texte(const char* fiche, const char* nom) {
+        return piece<QLineEdit>(fiche, nom)->text().toStdString();
+    }
 
-    /// Types over what stands in a field.
-    void tape(const char* fiche, const char* nom, const char* texte) {
-        auto* champ = static_cast<QLineEdit*>(piece(fiche, nom));
-        champ->setFocus();
-        champ->selectAll();
-        QTest::keyClick(champ, Qt::Key_Delete);
-        QTest::keyClicks(champ, texte);
+    /// Has the next popup answered by `f`, then closed.
+    static void au_menu(std::function<void(QMenu&)> f) {
+        QTimer::singleShot(50, [f = std::move(f)] {
+            auto* m = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            ASSERT_TRUE(m);
+            f(*m);
+            m->close();
+        });
+    }
+    static void choisit(QAction* action) {
+        auto* m = qobject_cast<QMenu*>(action->menu() ? action->menu()->parent() : action->parent());
+        QTest::mouseClick(m, Qt::LeftButton, {}, m->actionGeometry(action).center());
     }
 
     shell::panneau& fiche(const char* nom) { return *programme::registre().trouve_panneau(nom); }
@@ -99,14 +115,6 @@ class fenetres : public testing::Test {
     port_temoin port;
     horloge_arretee horloge;
     std::unique_ptr<plateforme::qt::seance> s;
-
-  private:
-    void cree(plateforme::qt::composition c, const char* echelle) {
-        qputenv("QT_SCALE_FACTOR", echelle);
-        static char nom[] = "essais";
-        static char* arguments[] = {nom, nullptr};
-        s = std::make_unique<plateforme::qt::seance>(1, arguments, std::move(c));
-    }
 };
 
 } // namespace essais

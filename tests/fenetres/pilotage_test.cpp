@@ -1,13 +1,13 @@
-// The mount moved by hand, with the mouse and the keys on the real windows.
+// The mount moved by hand, by a slew and by the sidereal drive, with the mouse and the keys on the real
+// windows.
 #include "fenetres.h"
 
 #include "piloting/frmaltazpilot_champs.h"
 #include "shell/frminterface_champs.h"
+#include "sky/position.h"
 
-#include <QLineEdit>
-#include <QMdiSubWindow>
-#include <QScrollBar>
-#include <QSlider>
+#include <QListWidget>
+#include <QProgressBar>
 
 namespace {
 
@@ -27,7 +27,7 @@ class pilotage : public essais::fenetres {
         });
     }
     QWidget* bouton(const char* nom) { return piece("frmaltazpilot", nom); }
-    void appuie(const char* nom) { QTest::mousePress(bouton(nom), Qt::LeftButton); }
+    void appuie(const char* nom) { presse("frmaltazpilot", nom); }
     void relache(const char* nom) { QTest::mouseRelease(bouton(nom), Qt::LeftButton); }
 
     // The bytes on the data register, each once where it repeats.
@@ -103,7 +103,7 @@ TEST_F(pilotage, the_keys_stop_a_jog) {
 
 TEST_F(pilotage, closing_the_panel_stops_the_jog) {
     port.apres(20, [this] {
-        static_cast<QMdiSubWindow*>(bouton(nullptr))->close();
+        piece<QMdiSubWindow>("frmaltazpilot")->close();
         EXPECT_FALSE(fiche("frmaltazpilot").est_charge());
     });
     auto* sous = bouton(nullptr);
@@ -116,49 +116,86 @@ TEST_F(pilotage, closing_the_panel_stops_the_jog) {
     EXPECT_TRUE(sous->isVisible());
 }
 
-TEST_F(pilotage, a_second_direction_takes_over) {
-    port.apres(20, [this] { clique("frmaltazpilot", "cmdhh"); });
-    port.apres(40, [this] {
-        EXPECT_FALSE(frmaltazpilot::cmdad.regarde_enfonce());
-        port.ecritures.clear();
-    });
-    port.apres(60, [this] { appuie("cmddstop"); });
-    clique("frmaltazpilot", "cmdad");
-    EXPECT_EQ(valeurs(), (std::vector{2, 3})) << "the first axis stands still, to the last step of its loop";
-    EXPECT_EQ(cmdsens, 0);
+// Objects picked with real double clicks: a press, a release and a second press. The stop is pressed once the
+// window shows the first axis on its way, then struck by its two keys; it has the focus from the first pulse.
+TEST_F(pilotage, a_slew_is_stopped_by_the_mouse_and_by_both_keys) {
+    const auto double_clique = [this](const char* liste, int rang) {
+        auto* l = piece<QListWidget>("frmequapointage", liste);
+        l->scrollToItem(l->item(rang));
+        const auto ou = l->visualItemRect(l->item(rang)).center();
+        QTest::mouseClick(l->viewport(), Qt::LeftButton, {}, ou);
+        QTest::mouseDClick(l->viewport(), Qt::LeftButton, {}, ou);
+    };
+    clique("frminterface", "baraltaz(3)");
+    frminterface::mnupointequa.clic();
+    double_clique("lbEtoiles", 0);
+    ASSERT_TRUE(piece("frmequapointage", "lbObjets")->isVisible());
+    const std::pair<int, std::function<void()>> arrets[] = {
+        {4000,
+         [this] {
+             EXPECT_TRUE(piece("frmDepl")->isVisible());
+             EXPECT_GT(piece<QProgressBar>("frmDepl", "ProgressBaraz")->value(), 0);
+             presse("frmDepl", "cmstoppointage");
+         }},
+        {1, [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape); }},
+        {10, [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space); }}};
+    int objet = 30;
+    for (const auto& [n, arrete] : arrets) {
+        const int a_l_arret = port.impulsions + n;
+        port.apres(a_l_arret, arrete);
+        double_clique("lbObjets", objet);
+        EXPECT_GE(port.impulsions, a_l_arret);
+        EXPECT_LE(port.impulsions, a_l_arret + 2);
+        EXPECT_FALSE(piece("frmDepl")->isVisible());
+        objet += 15;
+    }
 }
 
-TEST_F(pilotage, a_slider_changes_the_speed_of_a_running_jog) {
-    auto* curseur = static_cast<QSlider*>(bouton("slaz"));
-    EXPECT_EQ(curseur->value(), 3);
-    port.apres(20, [&] {
-        curseur->setFocus();
-        QTest::keyClick(curseur, Qt::Key_Right);
-    });
-    port.apres(30, [this] { appuie("cmddstop"); });
-    clique("frmaltazpilot", "cmdag");
-    EXPECT_EQ(cmd_moteur::tempopas, cmd_moteur::vitessealtaz[4]);
-    EXPECT_EQ(static_cast<QLineEdit*>(bouton("txtnumaz"))->text(), "5");
-    EXPECT_EQ(static_cast<QLineEdit*>(bouton("txtv_az"))->text(), "IIIIIIIIIIIII");
+// One burst for each second the computer's clock shows, until the stop is pressed.
+TEST_F(pilotage, the_sidereal_drive_follows_the_clock) {
+    frminterface::mnupilotageequa.clic();
+    clique("frmequapilot", "cmdgo");
+    QTest::qWait(300);
+    EXPECT_EQ(port.impulsions, 0) << "the clock stands still";
+    horloge.seconde = 1;
+    EXPECT_TRUE(QTest::qWaitFor([this] { return port.impulsions == 2; }, 1000)); // 15.04 / 6.48 half-steps
+    EXPECT_EQ(texte("frmequapilot", "txtessai"), "1");
+    presse("frmequapilot", "cmdstopgo");
+    horloge.seconde = 2;
+    QTest::qWait(300);
+    EXPECT_EQ(port.impulsions, 2);
 }
 
-// A change by code is no act of the user: it runs no handler that the code did not run itself.
-TEST_F(pilotage, the_store_and_the_widgets_agree_without_echo) {
-    auto* champ = static_cast<QLineEdit*>(bouton("tAZ(0)"));
-    auto* barre = static_cast<QScrollBar*>(bouton("HScroll1"));
-    frmaltazpilot::reglage.champ(0).ecrit("24.68");
-    frmaltazpilot::reglage.barre(0).place(25);
-    EXPECT_EQ(barre->value(), 25);
-    EXPECT_EQ(champ->text(), "24.68");
-    QTest::mouseClick(bouton("lblvit"), Qt::LeftButton);
-    barre->setFocus();
-    QTest::keyClick(barre, Qt::Key_Right);
-    EXPECT_EQ(champ->text(), "26");
-    champ->selectAll();
-    QTest::keyClicks(champ, "12,");
-    QTest::sendKeyEvent(QTest::Click, champ, Qt::Key_Eacute, QString{"é"}, Qt::NoModifier);
-    EXPECT_EQ(frmaltazpilot::reglage.champ(0).lit(), "12,é");
-    EXPECT_EQ(barre->value(), 26);
+// Counts what is painted anywhere in the main frame.
+class peintures final : public QObject {
+  public:
+    peintures() { qApp->installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* e) override {
+        nombre += e->type() == QEvent::Paint;
+        return false;
+    }
+    int nombre = 0;
+};
+
+TEST_F(pilotage, a_tick_that_changes_nothing_paints_nothing) {
+    clique("frminterface", "baraltaz(6)");
+    piece<QMdiSubWindow>("frmconfig")->close();
+    EXPECT_TRUE(fiche("frmconfig").est_charge() && !piece("frmconfig")->isVisible()) << "hidden only";
+    clique("frminterface", "baraltaz(6)");
+    EXPECT_TRUE(piece("frmconfig")->isVisible());
+    principale()->setFocus(); // no field with a blinking cursor
+    const auto tics = [this](int n) {
+        const int avant = horloge.lectures;
+        ASSERT_TRUE(QTest::qWaitFor([&] { return horloge.lectures >= avant + n; }));
+    };
+    tics(3); // all is on screen
+    const peintures p;
+    tics(10);
+    EXPECT_EQ(p.nombre, 0);
+    general::posaz += 1; // its third field and the full value
+    tics(2);
+    EXPECT_GE(p.nombre, 2);
+    EXPECT_LE(p.nombre, 12) << "and little around them";
 }
 
 } // namespace

@@ -1,8 +1,5 @@
-#include "base/octets.h"
-#include "echec.h"
+#include "essai.h"
 #include "settings/valeurs.h"
-
-#include <cstdlib>
 
 using base::cause;
 using essais::attend_echec;
@@ -12,17 +9,11 @@ namespace {
 
 class Valeurs : public testing::Test {
   protected:
-    void SetUp() override {
-        std::string modele = (std::filesystem::temp_directory_path() / "velmoria-XXXXXX").string();
-        ASSERT_NE(mkdtemp(modele.data()), nullptr);
-        dossier = modele;
-    }
-    void TearDown() override { std::filesystem::remove_all(dossier); }
     lecteur de(const std::string& octets, valeurs::separateurs s = valeurs::separateurs::virgule) {
-        base::ecrit_fichier(dossier / "essai.ini", octets);
-        return lecteur{dossier / "essai.ini", s};
+        base::ecrit_fichier(dossier.chemin / "essai.ini", octets);
+        return lecteur{dossier.chemin / "essai.ini", s};
     }
-    std::filesystem::path dossier;
+    essais::dossier_prive dossier;
 };
 
 } // namespace
@@ -90,7 +81,7 @@ TEST_F(Valeurs, AreWrittenOneALine) {
     e.nombre(base::entier32{0});
     e.booleen(true);
     e.booleen(false);
-    e.enregistre(dossier / "e.ini");
-    EXPECT_EQ(base::lit_fichier(dossier / "e.ini"),
+    e.enregistre(dossier.chemin / "e.ini");
+    EXPECT_EQ(base::lit_fichier(dossier.chemin / "e.ini"),
               "\xE9t\xE9 ?\r\n\r\n 250 \r\n-2.5 \r\n 0 \r\nVrai\r\nFaux\r\n");
 }

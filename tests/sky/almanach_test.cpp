@@ -1,57 +1,30 @@
-#include "echec.h"
-#include "machine_essai.h"
+#include "essai.h"
 #include "settings/frmconfig_champs.h"
 #include "shell/frmcoord_champs.h"
 #include "sky/almanach.h"
-#include "sky/heure.h"
 #include "sky/temps_sideral.h"
 
 namespace {
 
 using base::cause;
 using essais::attend_echec;
-using essais::machine_essai;
+using essais::machine;
 using general::lit_almanach;
 
 const char* const aout = "date/2001/aout/sg0.txt";
 
-void choisit(int jour, int mois, int annee) {
-    frmcoord::cbjour.position(jour - 1);
-    frmcoord::cbmois.position(mois - 1);
-    frmcoord::cbannee.position(annee - 2000);
-}
-
-std::string lignes(int n) {
-    std::string t;
-    for (int i = 1; i <= n; ++i)
-        t += std::to_string(i) + ",0,0," + std::to_string(i) + "\r\n";
-    return t;
-}
-
-TEST(almanach, formes_du_fichier) {
-    const machine_essai m;
-    choisit(2, 8, 2001);
-    for (const char* texte : {"1,0,0,0\r\n2,6,34,56\r\n", "1 0 0 0\r\n2 6 34 56\r\n",
-                              "1,0,0,0,2,6,34\r\n56\r\n", "1,0,0,0\n9, 6 ,34,55.6\n"}) {
-        m.fichier(aout, texte);
-        lit_almanach();
-        EXPECT_EQ(frmcoord::txtessai.lit(), "23696") << texte;
-    }
-    EXPECT_EQ(general::chemindate, "date/2001/aout");
-    EXPECT_EQ(general::jouralm[2], 9);
-    EXPECT_EQ(general::indicejour, 3);
-    m.fichier(aout, lignes(32));
-    lit_almanach();
-    EXPECT_EQ(general::tsg0, 2);
-    frmcoord::cbjour.position(-1);
-    lit_almanach();
-    EXPECT_EQ(frmcoord::txtessai.lit(), "0") << "row 0 stays 0";
-}
-
 TEST(almanach, fichiers_fautifs) {
-    const machine_essai m;
-    choisit(1, 8, 2001);
-    m.fichier(aout, lignes(33));
+    const machine m;
+    frmcoord::cbjour.position(0);
+    frmcoord::cbmois.position(7);
+    frmcoord::cbannee.position(1);
+    std::string lignes;
+    for (int i = 1; i <= 32; ++i)
+        lignes += std::to_string(i) + ",0,0," + std::to_string(i) + "\r\n";
+    m.fichier(aout, lignes);
+    lit_almanach();
+    EXPECT_EQ(general::tsg0, 1);
+    m.fichier(aout, lignes + "33,0,0,0");
     EXPECT_NE(attend_echec(cause::indice, lit_almanach).find("aout"), std::string::npos);
     m.fichier(aout, "1,6,34\r\n");
     attend_echec(cause::fin_de_fichier, lit_almanach);
@@ -59,40 +32,6 @@ TEST(almanach, fichiers_fautifs) {
     attend_echec(cause::depassement, lit_almanach);
     std::filesystem::remove(m.donnees / aout);
     attend_echec(cause::fichier_introuvable, lit_almanach);
-}
-
-// The message comes first; the folder read last then gets another month appended, which no file has.
-TEST(almanach, annee_sans_almanach) {
-    machine_essai m;
-    choisit(1, 8, 2001);
-    lit_almanach();
-    choisit(1, 5, 2002);
-    const auto detail = attend_echec(cause::fichier_introuvable, lit_almanach);
-    EXPECT_EQ(m.vue.messages, std::vector<std::string>{"choix de l'année non valide"});
-    EXPECT_NE(detail.find("2001/aout/mai/sg0.txt"), std::string::npos) << detail;
-}
-
-TEST(heure, du_jour_civil_au_jour_universel) {
-    machine_essai m;
-    frmcoord::fiche.charge();
-    const struct {
-        int decalage, jour, heure;
-        const char* txth;
-        int cbjour; // 20: as it was
-    } cas[] = {{2, 15, 0, "22", 13}, {2, 15, 1, "23", 20}, {2, 15, 2, "0", 20}, {2, 15, 23, "21", 20},
-               {1, 15, 0, "23", 13}, {1, 15, 1, "0", 20},  {1, 15, 2, "1", 20}, {1, 1, 0, "23", -1}};
-    for (const auto& c : cas) {
-        frmcoord::cbjour.position(20);
-        frmcoord::txtessai.ecrit("");
-        general::decalageheure = c.decalage;
-        m.horloge.t = {.annee = 2001, .mois = 8, .jour = c.jour, .heure = c.heure, .minute = 7, .seconde = 9};
-        general::synchro_heure();
-        EXPECT_EQ(frmcoord::txth.lit(), c.txth) << c.heure;
-        EXPECT_EQ(frmcoord::txtmin.lit() + ":" + frmcoord::txts.lit(), "7:9");
-        EXPECT_EQ(frmcoord::cbjour.position(), c.cbjour) << c.heure;
-        EXPECT_EQ(frmcoord::txtessai.lit() != "", c.heure == 0) << "the almanac is read in hour 0 alone";
-    }
-    EXPECT_EQ(frmcoord::txtessai.lit(), "0") << "no day before the first of a month";
 }
 
 TEST(temps_sideral, ecoule_et_base) {
@@ -105,7 +44,7 @@ TEST(temps_sideral, ecoule_et_base) {
 }
 
 TEST(temps_sideral, un_jour_ote_une_fois) {
-    const machine_essai m;
+    const machine m;
     for (auto* champ :
          {&frmcoord::txth, &frmcoord::txtmin, &frmcoord::txts, &frmconfig::txtdegre, &frmconfig::txtmin})
         champ->ecrit("");

@@ -1,5 +1,4 @@
-#include "echec.h"
-#include "machine_essai.h"
+#include "essai.h"
 #include "settings/frmconfig_champs.h"
 #include "shell/frmcoord_champs.h"
 #include "sky/affichage.h"
@@ -14,9 +13,7 @@
 
 namespace {
 
-using base::cause;
-using essais::attend_echec;
-using essais::machine_essai;
+using essais::machine;
 
 // Site and time of an instant at which the local sidereal time is so many seconds.
 void pose(const std::string& latitude, int tsl) {
@@ -25,15 +22,6 @@ void pose(const std::string& latitude, int tsl) {
         champ->ecrit("0");
     frmconfig::txtlatdeg.ecrit(latitude);
     frmcoord::txtessai.ecrit(base::entier32{tsl});
-}
-
-void pose_objet(const std::string& h, const std::string& min, const std::string& signe,
-                const std::string& deg) {
-    frmconfig::Txtad_h.ecrit(h);
-    frmconfig::txtad_min.ecrit(min);
-    frmconfig::txtsign.ecrit(signe);
-    frmconfig::txtdec_deg.ecrit(deg);
-    frmconfig::txtdec_min.ecrit("0");
 }
 
 // Angle on the sky between the position and a place in degrees, arcseconds.
@@ -58,7 +46,7 @@ std::vector<std::vector<std::string>> references() {
 }
 
 TEST(conversion, table_de_reference) {
-    const machine_essai m;
+    const machine m;
     const auto toutes = references();
     ASSERT_GT(toutes.size(), 100u);
     frmcoord::fiche.charge();
@@ -87,7 +75,7 @@ TEST(conversion, table_de_reference) {
 
 // The place computed from a position and shown on the panels is at that position at the same instant.
 TEST(conversion, aller_et_retour) {
-    const machine_essai m;
+    const machine m;
     frmcoord::fiche.charge();
     int essayees = 0;
     for (const char* latitude : {"48.16", "5", "-33.5"})
@@ -107,51 +95,9 @@ TEST(conversion, aller_et_retour) {
     EXPECT_GT(essayees, 1000);
 }
 
-// Every quadrant by the sense of the sky: at latitude 45 and declination 0, one hour either side of a
-// transit.
-TEST(conversion, quadrants) {
-    const machine_essai m;
-    frmcoord::fiche.charge();
-    const struct {
-        const char *ad_h, *ad_min, *signe, *deg;
-        double az_min, az_max;
-    } cas[] = {{"9", "59", "+", "0", 180, 181},    // a minute past the southern transit
-               {"10", "1", "+", "0", 179, 180},    // a minute before it
-               {"11", "0", "+", "70", 0, 90},      // north of the zenith, east
-               {"9", "0", "+", "70", 270, 360},    // and west
-               {"16", "30", "+", "20", 0, 90},     // rising in the north-east
-               {"3", "30", "+", "20", 270, 360},   // setting in the north-west
-               {"4", "30", " +", "20", 180, 270}}; // only exactly "+" is positive
-    for (const auto& c : cas) {
-        pose("45", 36000);
-        pose_objet(c.ad_h, c.ad_min, c.signe, c.deg);
-        general::calcul_altaz();
-        EXPECT_GT(general::azdeg, c.az_min) << c.ad_h << "h" << c.ad_min << " " << c.signe << c.deg;
-        EXPECT_LT(general::azdeg, c.az_max) << c.ad_h << "h" << c.ad_min << " " << c.signe << c.deg;
-    }
-}
-
-TEST(conversion, points_singuliers) {
-    const machine_essai m;
-    frmcoord::fiche.charge();
-    pose("45", 3600);
-    pose_objet("1", "0", "+", "45");
-    attend_echec(cause::division_par_zero, general::calcul_altaz); // at the zenith
-    pose("0", 3600);
-    pose_objet("4", "0", "+", "0");
-    attend_echec(cause::division_par_zero, general::calcul_altaz); // due east
-    pose("45", 3600);
-    pose_objet("1", "0", "+", "0");
-    general::calcul_altaz();
-    EXPECT_EQ(general::posaz, 0) << "an exact transit in the south is taken for the north";
-    EXPECT_NEAR(general::posalt, 45 * 3600, 1e-6);
-    frmcoord::txth.ecrit("1e308");
-    attend_echec(cause::depassement, general::calcul_altaz);
-}
-
 // The exact south is taken for the north, and only that one value.
 TEST(conversion, plein_sud) {
-    const machine_essai m;
+    const machine m;
     frmcoord::fiche.charge();
     pose("48", 0);
     general::posalt = 108000;
@@ -164,7 +110,7 @@ TEST(conversion, plein_sud) {
 }
 
 TEST(conversion, affichage_equatorial) {
-    const machine_essai m;
+    const machine m;
     const struct {
         double ad, dec;
         const char *h, *min, *signe, *deg, *minarc;

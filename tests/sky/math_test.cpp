@@ -1,7 +1,5 @@
-#include "echec.h"
-#include "machine_essai.h"
+#include "essai.h"
 #include "settings/frmconfig_champs.h"
-#include "shell/frmcoord_champs.h"
 #include "sky/math.h"
 
 #include <cmath>
@@ -35,24 +33,8 @@ TEST(math, inverses) {
     attend_echec(cause::racine_negative, [] { math::arccos(-1.0000000001); });
 }
 
-TEST(math, degres_minutes_secondes) {
-    const essais::machine_essai m;
-    const struct {
-        double arcsec;
-        const char *deg, *min, *sec;
-    } cas[] = {{0, "0", "0", "0"},        {3599.6, "0", "59", "60"},   {-1, "-1", "59", "59"},
-               {648000, "180", "0", "0"}, {3661.5, "1", "1", "2"},     {3662.5, "1", "1", "2"},
-               {-3600, "-1", "0", "0"},   {1296000.4, "360", "0", "0"}};
-    for (const auto& c : cas) {
-        math::ecritdms(c.arcsec, frmcoord::txtcoordaz1, frmcoord::txtcoordaz2, frmcoord::txtcoordaz3);
-        EXPECT_EQ(frmcoord::txtcoordaz1.lit(), c.deg) << c.arcsec;
-        EXPECT_EQ(frmcoord::txtcoordaz2.lit(), c.min) << c.arcsec;
-        EXPECT_EQ(frmcoord::txtcoordaz3.lit(), c.sec) << c.arcsec;
-    }
-}
-
 TEST(math, angle_d_un_pas) {
-    const essais::machine_essai m;
+    const essais::machine m;
     const struct {
         const char *pas, *rapport;
         double angle;

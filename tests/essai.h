@@ -1,0 +1,73 @@
+// A program on a machine of numbers: virtual time, the simulated port, a view that only remembers, and a
+// private copy of the delivered data.
+#pragma once
+
+#include "base/octets.h"
+#include "bench/monture.h"
+#include "bench/port_simule.h"
+#include "echec.h"
+#include "platform/virtuelle/boucle_virtuelle.h"
+#include "shell/programme.h"
+
+#include <cstdlib>
+#include <filesystem>
+
+namespace essais {
+
+/// A folder of the test's own.
+class dossier_prive {
+  public:
+    dossier_prive() {
+        std::string modele = (std::filesystem::temp_directory_path() / "velmoria-XXXXXX").string();
+        if (!mkdtemp(modele.data()))
+            std::abort();
+        chemin = modele;
+    }
+    ~dossier_prive() { std::filesystem::remove_all(chemin); }
+    dossier_prive(const dossier_prive&) = delete;
+    dossier_prive& operator=(const dossier_prive&) = delete;
+
+    std::filesystem::path chemin;
+};
+
+class vue_muette final : public plateforme::vue {
+  public:
+    void panneau_change(const shell::panneau&) override { ++changements; }
+    void eleve(const shell::panneau&) override { ++elevations; }
+    void repeint(const shell::panneau&) override {}
+    void controle_change(const shell::controle&, plateforme::aspect) override { ++changements; }
+    shell::entree* ouvre_menu(shell::entree&, const shell::entree*) override { return choix; }
+    void message(const std::string&) override {}
+    plateforme::image charge_image(const std::filesystem::path&) override { return photo; }
+
+    int changements = 0;
+    int elevations = 0;
+    plateforme::image photo{1, 10, 10, 96}; ///< what every picture is
+    shell::entree* choix = nullptr;         ///< what the next popups answer
+};
+
+/// The program put together in its design state, not started, on 2001 August 15 at 22 h.
+class machine : private dossier_prive {
+  public:
+    machine() {
+        std::filesystem::copy(VELMORIA_DONNEES, chemin, std::filesystem::copy_options::recursive);
+        boucle.regle_horloge({.annee = 2001, .mois = 8, .jour = 15, .heure = 22});
+        plateforme::courante = {&port, &boucle, &boucle, &vue, chemin};
+        programme::construit();
+    }
+
+    /// Replaces a data file; `contenu` is UTF-8, with its line ends.
+    void fichier(const std::string& nom, const std::string& contenu) const {
+        base::ecrit_fichier(chemin / nom, base::vers_1252(contenu));
+    }
+
+    banc::monture monture;
+    banc::port_simule port{monture};
+    plateforme::boucle_virtuelle boucle;
+    vue_muette vue;
+    const std::filesystem::path& donnees = chemin;
+};
+
+class Essai : public testing::Test, protected machine {};
+
+} // namespace essais
