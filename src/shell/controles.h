@@ -339,7 +339,6 @@ class minuteur : public controle {
     void intervalle(base::entier32 ms);
     void au_tic(std::function<void()> f);
     bool regarde_marche() const;
-    int regarde_intervalle() const;
     void tic(); ///< called by the event loop when it is due
 
   private:

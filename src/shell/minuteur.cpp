@@ -8,7 +8,6 @@ namespace shell {
 bool minuteur::marche() { return acces().marche; }
 int minuteur::intervalle() { return acces().intervalle; }
 bool minuteur::regarde_marche() const { return e().marche; }
-int minuteur::regarde_intervalle() const { return e().intervalle; }
 void minuteur::au_tic(std::function<void()> f) { r().change = std::move(f); }
 
 void minuteur::marche(bool oui) {
