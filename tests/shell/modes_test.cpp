@@ -3,6 +3,7 @@
 #include "piloting/frmaltazpilot_champs.h"
 #include "piloting/frmequapilot_champs.h"
 #include "piloting/frmraquette_champs.h"
+#include "pointing/etat_pointage.h"
 #include "settings/frmconfig_champs.h"
 #include "settings/frmequaconfig_champs.h"
 #include "shell/frmcoord_champs.h"
@@ -62,6 +63,22 @@ TEST(modes, raquette) {
         (general ? bargeneral_boutons(1) : baraltaz_boutons(1)).clic();
         EXPECT_FALSE(frmraquette::fiche.est_charge() || Timer.marche());
     }
+}
+
+TEST(modes, altazimutal_par_la_barre_cachee) {
+    machine_essai m;
+    programme::demarre();
+    barchoix_boutons(1).clic();
+    charge_tout();
+    m.port.ecritures.clear();
+    bargeneral.visible(true);
+    bargeneral_boutons(4).clic();
+    EXPECT_TRUE(baraltaz.visible() && !barequa.visible() && bargeneral.visible());
+    EXPECT_TRUE(frmcoord::fiche.est_visible() && heuretimer.marche());
+    EXPECT_FALSE(frmequapilot::fiche.est_charge() || frmequaconfig::fiche.est_charge());
+    EXPECT_TRUE(frmaltazpilot::fiche.est_charge() && frmconfig::fiche.est_charge());
+    EXPECT_EQ(pointing::panneaualtaz, true);
+    EXPECT_TRUE(m.port.ecritures.empty());
 }
 
 } // namespace
