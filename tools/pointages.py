@@ -1,7 +1,7 @@
 #!/usr/bin/python3
-"""Write the scenarios of the alt-azimuth slew, tests/scenarios/pointage_altaz*.scn, with what they must print.
+"""Write the scenario of the alt-azimuth slew, tests/scenarios/pointage_altaz.scn, with what it must find.
 
-Usage: pointages.py [FOLDER]
+Usage: pointages.py [FILE]
 
 The targets' azimuths and altitudes come from ERFA, the rest is counted here from the slew's rules: 2 |floor(way /
 step)| + 1 pulses an axis at 2 ms each, the clock's whole second at its last tick (every 100 ms), passes until both
@@ -16,7 +16,7 @@ from pathlib import Path
 import erfa
 
 ICI = Path(__file__).resolve().parent
-SORTIE = ICI.parent / "tests" / "scenarios"
+SORTIE = ICI.parent / "tests" / "scenarios" / "pointage_altaz.scn"
 
 LON, LAT = math.radians(6 + 27 / 60), math.radians(48 + 10 / 60)
 PAS_AZ, PAS_ALT, R_ALT, R_AZ = 100, 96, 120, 150
@@ -32,8 +32,7 @@ ENTETE = f"""\
 fichier config_altaz.ini 6|27|48|10|{PAS_AZ}|{PAS_ALT}|{R_ALT}|{R_AZ}
 fichier vitessealtaz.ini 1|1|1|1|33300|1|1|1|1|33300
 fichier pointagealtaz.ini 5|5
-"""
-DEMARRE = """\
+fichier messier.cat OBJETS
 horloge 2001-08-15 22:00:00
 demarre
 clic frminterface.barchoix(2)
@@ -41,6 +40,7 @@ clic frmconfig.cmdreinit
 clic frmconfig.cmdinitcoord
 avance 1s
 clic frminterface.baraltaz(4)
+zero
 """
 
 
@@ -87,19 +87,20 @@ class Telescope:
     def __init__(self):
         self.ms = 1000
         self.az, self.alt = DEPART
-        self.lignes = []
         self.passes = 0
+        self.couche = False
 
     def pointe(self, ad, dec):
         """A whole slew. Gives its pulses on both axes and the last target."""
         envoyees = [0, 0]
         barres = [0, 0]
         self.passes = 0
+        self.couche = False
         while True:
             self.passes += 1
             az, alt = horizon(self.ms, ad, dec)
             if alt < 0:
-                self.lignes.append("message déplacement impossible : altitude négative !")
+                self.couche = True
                 return envoyees, (az, alt)
             daz, dalt = az - self.az, alt - self.alt
             na, nh = compte(daz, ANG_AZ), compte(dalt, ANG_ALT)
@@ -127,96 +128,92 @@ def etiquettes(ad, dec):
             f"{nombre(d)}°{nombre(abs(minutes) if d < 0 else minutes)}'")
 
 
-def suite():
+def vaut(panneau="", **valeurs):
+    return " ".join(["vaut", *([panneau] if panneau else []), *(f"{nom}={v}" for nom, v in valeurs.items())])
+
+
+def pointe(rang, t, ad, dec):
+    """The lines of a whole slew to the object of this rank."""
+    envoyees, (az, alt) = t.pointe(ad, dec)
+    lignes = [f"double frmaltazpointage.lbObjets {rang}", f"# {t.passes} pass(es)",
+              f"attend impulsions az0={envoyees[0]} az8=0 alt0={envoyees[1]} alt2=0"]
+    if t.couche:
+        lignes.insert(1, "#> message déplacement impossible : altitude négative !")
+    return lignes, az, alt
+
+
+def champs(panneau, nombre, **angles):
+    return vaut(panneau, **{f"txtcoord{axe}{k}": v for axe, x in angles.items()
+                            for k, v in enumerate(dms(x)[:nombre], 1)})
+
+
+def suite(objets):
     """One night's road: ways of both signs, the same object again, the horizon, +0 degrees."""
     t = Telescope()
     # Azimuth, altitude and about when: up and on, back and down, the same again, north, under the horizon.
     cibles = [(251.3, 52.1, 1000), (98.7, 17.2, 60000), (98.7, 17.2, 60000), (326.3, 41.3, 100000),
               (305.2, -12.4, 150000)]
-    objets = [objet(ms, az, alt) for az, alt, ms in cibles]
+    objets += [objet(ms, az, alt) for az, alt, ms in cibles]
     objets.append((objet(150000, 140.0, 30.0)[0], 300))  # +0 degrees 30
-    scenario = [ENTETE, "fichier messier.cat " + "|".join(f"M{i + 1},GL,{a},{d}" for i, (a, d) in enumerate(objets)),
-                "\n" + DEMARRE]
+    lignes = ["# essai suite"]
     for i, (ad, dec) in enumerate(objets):
-        scenario.append("zero\n")
-        scenario.append(f"double frmaltazpointage.lbObjets {i}\n")
-        envoyees, (az, alt) = t.pointe(ad, dec)
-        for x in ("frmaltazpointage.tADpos", "frmaltazpointage.tdcpos"):
-            scenario.append(f"montre {x}\n")
-        t.lignes += [f"{x} = {y}" for x, y in zip(("frmaltazpointage.tADpos", "frmaltazpointage.tdcpos"),
-                                                  etiquettes(ad, dec))]
-        for nom, valeurs in (("az", dms(az)), ("alt", dms(alt))):
-            for k, v in enumerate(valeurs, 1):
-                scenario.append(f"montre frmaltazpointage.txtcoord{nom}{k}\n")
-                t.lignes.append(f"frmaltazpointage.txtcoord{nom}{k} = {v}")
-        scenario.append("montre impulsions\n")
-        t.lignes.append(f"impulsions az0={envoyees[0]} az8=0 alt0={envoyees[1]} alt2=0")
-        scenario.append(f"# {t.passes} pass(es)\n")
-        scenario.append("avance 1s\n")
+        siennes, az, alt = pointe(i, t, ad, dec)
+        lignes += siennes
+        if i in (0, 5):
+            tad, tdc = etiquettes(ad, dec)
+            lignes += [f"attend frmaltazpointage.tADpos {tad}", f"attend frmaltazpointage.tdcpos {tdc}"]
+        if i in (0, 4, 5):
+            lignes.append(champs("frmaltazpointage", 3, az=az, alt=alt))
+        lignes += ["avance 1s", "zero"]
         t.ms += 1000
-    scenario.append("montre frmDepl.charge\nmontre cmdsens\nmontre classevitaz\nmontre reticulead\n")
-    t.lignes += ["frmDepl.charge = 0", "cmdsens = 3", "classevitaz = 4", "reticulead = 0"]
-    return "".join(scenario), "\n".join(t.lignes) + "\n"
+    return lignes + ["vaut cmdsens=3 classevitaz=4 reticulead=0 frmDepl charge=0"]
 
 
-def arrets():
-    """Stops in azimuth, in altitude and in azimuth's last percent; each from the same start."""
-    scenario = [ENTETE]
-    lignes = []
+def arrets(objets):
+    """Stops in azimuth, in altitude and in azimuth's last percent, each from the same start; one pressed before."""
+    lignes = ["# essai arrets"]
     ad, dec = objet(1000, 251.3, 22.1)
+    rang = len(objets)
+    objets.append((ad, dec))
     az, alt = horizon(1000, ad, dec)
     na, nh = compte(az - DEPART[0], ANG_AZ), compte(alt - DEPART[1], ANG_ALT)
     assert na > 1000 and nh > 100 and alt < DEPART[1] and az > DEPART[0]
-    scenario.append(f"fichier messier.cat M1,GL,{ad},{dec}\n" + DEMARRE)
     fin = na - 4  # pulses: the bar stands at 99 or more
     cas = [(5, 5, 0, DEPART[0] + 5 / 2 * ANG_AZ, DEPART[1]),
            (na + 1 + 7, na + 1, 7, None, DEPART[1] - 7 / 2 * ANG_ALT),
            (fin, fin, 0, None, DEPART[1] - fin / 2 * ANG_ALT)]
+    depart = ["clic frmconfig.cmdinitcoord", "horloge 2001-08-15 22:00:01", "avance 100ms", "zero"]
     for impulsions, a, h, posaz, posalt in cas:
-        scenario.append("clic frmconfig.cmdinitcoord\nhorloge 2001-08-15 22:00:01\navance 100ms\nzero\n")
-        scenario.append(f"a {2 * impulsions}ms enfonce frmDepl.cmstoppointage\n")
-        scenario.append("double frmaltazpointage.lbObjets 0\nmontre impulsions\n")
-        lignes.append(f"impulsions az0={a} az8=0 alt0={h} alt2=0")
-        if posaz is not None:
-            scenario.append("montre posaz\n")
-            lignes.append(f"posaz = {posaz:g}" if posaz % 1 else f"posaz = {posaz:.0f}")
-        else:
-            scenario.append("avance 100ms\nmontre frmcoord.txtcoordaz1\nmontre frmcoord.txtcoordaz2\n")
-            lignes += [f"frmcoord.txtcoordaz1 = {dms(az)[0]}", f"frmcoord.txtcoordaz2 = {dms(az)[1]}"]
-        scenario.append("montre posalt\nmontre distaz\nmontre stoppointage\nmontre frmDepl.charge\n")
-        lignes += [f"posalt = {repr(float(posalt)).removesuffix('.0')}", "distaz = 0", "stoppointage = 0",
-                   "frmDepl.charge = 0"]
-    return "".join(scenario), "\n".join(lignes) + "\n"
+        lignes += depart + [f"a {2 * impulsions}ms enfonce frmDepl.cmstoppointage",
+                            f"double frmaltazpointage.lbObjets {rang}",
+                            f"attend impulsions az0={a} az8=0 alt0={h} alt2=0"]
+        lignes += ([vaut(posaz=f"{posaz:.0f}")] if posaz is not None
+                   else ["avance 100ms", champs("frmcoord", 2, az=az)])
+        lignes.append(vaut(posalt=repr(float(posalt)).removesuffix(".0"), distaz=0, stoppointage=0) + " frmDepl charge=0")
+    # Before the slew: one pass without a pulse moves nothing, and with the bars at 0 the position moves by no step.
+    lignes += depart + ["enfonce frmDepl.cmstoppointage", f"double frmaltazpointage.lbObjets {rang}",
+                        "attend impulsions az0=0 az8=0 alt0=0 alt2=0"]
+    return lignes + [vaut(posaz=f"{DEPART[0]:.0f}", posalt=f"{DEPART[1]:.0f}", stoppointage=0)]
 
 
-def couche():
+def couche(objets):
     """A target that sets under the first pass: the message comes at the second, the position is the first's."""
     t = Telescope()
     ad, dec = next((a, d) for a, d in (objet(1000, 284 + x / 10, 0.045) for x in range(60))
                    if 60 < horizon(1000, a, d)[1] < 250)
-    envoyees, (az, alt) = t.pointe(ad, dec)
+    lignes, az, alt = pointe(len(objets), t, ad, dec)
+    objets.append((ad, dec))
     assert t.passes == 2 and alt < 0
-    scenario = [ENTETE, f"fichier messier.cat M1,GL,{ad},{dec}\n", DEMARRE, "zero\n",
-                "double frmaltazpointage.lbObjets 0\nmontre impulsions\nmontre frmDepl.charge\navance 100ms\n",
-                "montre frmaltazpointage.txtcoordalt1\n"]
-    lignes = t.lignes + [f"impulsions az0={envoyees[0]} az8=0 alt0={envoyees[1]} alt2=0", "frmDepl.charge = 0",
-                         f"frmaltazpointage.txtcoordalt1 = {dms(alt)[0]}"]
-    for nom, x in (("az", t.az), ("alt", t.alt)):
-        scenario.append(f"montre frmcoord.txtcoord{nom}1\nmontre frmcoord.txtcoord{nom}2\n")
-        lignes += [f"frmcoord.txtcoord{nom}1 = {dms(x)[0]}", f"frmcoord.txtcoord{nom}2 = {dms(x)[1]}"]
-    return "".join(scenario), "\n".join(lignes) + "\n"
+    return (["# essai couche"] + lignes + ["attend frmDepl.charge 0", champs("frmaltazpointage", 1, alt=alt),
+                                           "avance 100ms", champs("frmcoord", 2, az=t.az, alt=t.alt)])
 
 
-SCENARIOS = (("pointage_altaz", suite), ("pointage_altaz_arret", arrets), ("pointage_altaz_couche", couche))
-
-
-def main():
-    dossier = Path(sys.argv[1]) if len(sys.argv) > 1 else SORTIE
-    for nom, fait in SCENARIOS:
-        scenario, attendu = fait()
-        (dossier / f"{nom}.scn").write_text(scenario, encoding="utf-8")
-        (dossier / f"{nom}.attendu").write_text(attendu, encoding="utf-8")
+def scenario():
+    objets = []
+    lignes = suite(objets) + arrets(objets) + couche(objets)
+    liste = "|".join(f"M{i + 1},GL,{a},{d}" for i, (a, d) in enumerate(objets))
+    return ENTETE.replace("OBJETS", liste) + "\n".join(lignes) + "\n"
 
 
 if __name__ == "__main__":
-    main()
+    Path(sys.argv[1] if len(sys.argv) > 1 else SORTIE).write_text(scenario(), encoding="utf-8")

@@ -9,9 +9,7 @@ namespace {
 
 bool blanc(char c) { return c == ' ' || c == '\t'; }
 
-std::string_view sans_blancs(std::string_view t) {
-    while (!t.empty() && blanc(t.front()))
-        t.remove_prefix(1);
+std::string_view sans_blancs_a_la_fin(std::string_view t) {
     while (!t.empty() && blanc(t.back()))
         t.remove_suffix(1);
     return t;
@@ -55,7 +53,7 @@ std::string_view lecteur::suivante() {
         else
             place_ += fin_de_ligne(tout, place_); // 0 in front of the next column
     }
-    return sans_blancs(valeur);
+    return sans_blancs_a_la_fin(valeur);
 }
 
 std::string lecteur::texte() { return base::de_1252(suivante()); }

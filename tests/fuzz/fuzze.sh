@@ -20,7 +20,13 @@ for cible in "${cibles[@]}"; do
     liste) cp data/img/liste.txt "$depart" ;;
     image) find data -name '*.gif' -o -name '*.jpg' | while read -r f; do head -c 1000 "$f" >"$depart/${f##*/}"; done ;;
     date) printf '2001-08-15 22:00:00.500' >"$depart/date" ;;
-    scenario) cp tests/scenarios/*.scn "$depart" ;;
+    scenario)
+        for f in tests/scenarios/*.scn; do
+            for e in '' $(grep -oP '^# essai \K\w+' "$f"); do
+                python3 tests/scenarios/joue.py - "$f" $e >"$depart/${f##*/}$e"
+            done
+        done
+        ;;
     esac
     echo "== $cible"
     "build/fuzz/tests/fuzz/fuzz_$cible" -max_total_time="$secondes" -max_len=4096 -timeout=20 -rss_limit_mb=4096 \
