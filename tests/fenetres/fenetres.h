@@ -57,20 +57,14 @@ class horloge_arretee final : public plateforme::horloge {
 
 class fenetres : public testing::Test {
   protected:
-    explicit fenetres(const char* echelle = "1", std::filesystem::path donnees = DONNEES)
-        : fenetres({.port = port,
-                    .horloge = horloge,
-                    .attente = [](std::int64_t) {},
-                    .donnees = std::move(donnees)},
-                   echelle) {}
+    explicit fenetres(const char* echelle = "1", std::filesystem::path donnees = DONNEES) {
+        ouvre(
+            {.port = port, .horloge = horloge, .attente = [](std::int64_t) {}, .donnees = std::move(donnees)},
+            echelle);
+    }
 
     /// On a machine of the test's own.
-    explicit fenetres(plateforme::qt::composition c, const char* echelle = "1") {
-        qputenv("QT_SCALE_FACTOR", echelle);
-        static char nom[] = "essais";
-        static char* arguments[] = {nom, nullptr};
-        s = std::make_unique<plateforme::qt::seance>(1, arguments, std::move(c));
-    }
+    explicit fenetres(plateforme::qt::composition c) { ouvre(std::move(c), "1"); }
 
     void SetUp() override {
         s->demarre();
@@ -115,6 +109,14 @@ class fenetres : public testing::Test {
     port_temoin port;
     horloge_arretee horloge;
     std::unique_ptr<plateforme::qt::seance> s;
+
+  private:
+    void ouvre(plateforme::qt::composition c, const char* echelle) {
+        qputenv("QT_SCALE_FACTOR", echelle);
+        static char nom[] = "essais";
+        static char* arguments[] = {nom, nullptr};
+        s = std::make_unique<plateforme::qt::seance>(1, arguments, std::move(c));
+    }
 };
 
 } // namespace essais
