@@ -58,7 +58,11 @@ struct machine {
     std::ostringstream sortie;
     plateforme::vue_scenario vue{sortie, [] { return std::string{"-"}; }};
 
-    machine() { fs::copy(VELMORIA_DONNEES, prive.chemin() / "data", fs::copy_options::recursive); }
+    machine() {
+        fs::copy(VELMORIA_DONNEES, prive.chemin() / "data", fs::copy_options::recursive);
+        boucle.regle_horloge(
+            {.annee = 2001, .mois = 1, .jour = 15, .heure = 12}); // a year that is in the lists
+    }
     fs::path donnees() const { return prive.chemin() / "data"; }
 };
 
