@@ -186,7 +186,7 @@ void champ_image::image(const plateforme::image& i) { change(&etat::image, i, as
 
 bool entree::coche() { return acces().coche; }
 void entree::coche(bool oui) { change(&etat::coche, oui, aspect::coche); }
-bool entree::a_une_commande() const { return static_cast<bool>(r().clic); }
+bool cliquable::a_une_commande() const { return r().clic || r().appui || r().relachement; }
 
 void entree::ouvre(const entree* defaut) {
     acces();

@@ -1,56 +1,49 @@
 #include "regles.h"
 
+#include "base/nombre.h"
 #include "drive/etat_moteur.h"
 #include "piloting/frmaltazpilot_champs.h"
 #include "piloting/frmequapilot_champs.h"
 #include "platform/plateforme.h"
+#include "shell/frminterface_champs.h"
 #include "tracking/frmaltazsuivi_champs.h"
 
 #include <algorithm>
+#include <cmath>
+#include <sstream>
 #include <string_view>
 
 namespace singe {
 
 namespace {
 
-// Motions and mode commands, and what starts them. Everything that yields may run an order or a timer too.
-constexpr std::string_view auteurs[] = {"frminterface.barequa(1)",
-                                        "frminterface.barequa(2)",
-                                        "frminterface.barequa(3)",
-                                        "frminterface.baraltaz(1)",
-                                        "frminterface.baraltaz(2)",
-                                        "frminterface.baraltaz(3)",
-                                        "frminterface.baraltaz(5)",
-                                        "frminterface.bargeneral(1)",
-                                        "frminterface.bargeneral(2)",
-                                        "frminterface.Quitter",
-                                        "frminterface.mnusuivi",
-                                        "frminterface.mnupilotageequa",
-                                        "frminterface.mnupilotagealtaz",
-                                        "frmaltazpilot.cmdag",
-                                        "frmaltazpilot.cmdad",
-                                        "frmaltazpilot.cmdhb",
-                                        "frmaltazpilot.cmdhh",
-                                        "frmequapilot.cmdag",
-                                        "frmequapilot.cmdad",
-                                        "frmequapilot.cmdhb",
-                                        "frmequapilot.cmdhh",
-                                        "frmaltazsuivi.cmdraquette",
-                                        "frmconfig.cmdaltencoding",
-                                        "frmconfig.cmdazencoding",
-                                        "frmconfig.cmdbacklash",
-                                        "frmequaconfig.cmdbacklash",
-                                        "frmaltazpointage.lbObjets",
-                                        "frmequapointage.lbObjets",
-                                        "frmequapointage.bOK"};
+// Motions and mode commands by what starts them; the chart's slew is an entry of its popup.
+constexpr std::string_view auteurs =
+    " frminterface.barequa(1) frminterface.barequa(2) frminterface.barequa(3) frminterface.baraltaz(1)"
+    " frminterface.baraltaz(2) frminterface.baraltaz(3) frminterface.baraltaz(5) frminterface.bargeneral(1)"
+    " frminterface.bargeneral(2) frminterface.Quitter frminterface.mnusuivi frminterface.mnupilotageequa"
+    " frminterface.mnupilotagealtaz frmaltazpilot.cmdag frmaltazpilot.cmdad frmaltazpilot.cmdhb"
+    " frmaltazpilot.cmdhh frmequapilot.cmdag frmequapilot.cmdad frmequapilot.cmdhb frmequapilot.cmdhh"
+    " frmaltazsuivi.cmdraquette frmconfig.cmdaltencoding frmconfig.cmdazencoding frmconfig.cmdbacklash"
+    " frmequaconfig.cmdbacklash frmaltazpointage.lbObjets frmequapointage.lbObjets frmequapointage.bOK"
+    " mnuPoint ";
 
-bool ecrit(const std::string& ligne) {
-    if (ligne == "demarre" || ligne.starts_with("avance ") || ligne.starts_with("menu "))
-        return true;
-    const auto nom = ligne.substr(std::min(ligne.find(' ') + 1, ligne.size()));
-    return std::any_of(std::begin(auteurs), std::end(auteurs), [&nom](std::string_view a) {
-        return nom == a || nom.starts_with(std::string{a} + " ");
-    });
+// The one of these that a command acts on; empty if there is none.
+std::string auteur_de(const std::string& commande) {
+    std::istringstream mots{commande};
+    std::string mot;
+    std::string sujet;
+    mots >> mot >> sujet;
+    return auteurs.find(' ' + sujet + ' ') == std::string_view::npos ? std::string{} : sujet;
+}
+
+// The timer that moves a motor; empty if none is on.
+std::string_view minuteur_moteur() {
+    if (frmaltazsuivi::timcompteur.regarde_marche())
+        return "suivi altaz";
+    if (frmequapilot::timersuivi.regarde_marche())
+        return "suivi equa";
+    return frminterface::Timer.regarde_marche() ? "raquette" : "";
 }
 
 // Their load takes the port for the computer.
@@ -61,11 +54,29 @@ bool panneau_moteur_charge() {
 
 } // namespace
 
-void regles::ligne(const std::string& l) {
+void regles::ligne(const std::string& l, std::int64_t temps) {
     ligne_ = l;
-    peut_ecrire_ = ecrit(l);
+    auteur_ = auteur_de(l);
+    if (l.starts_with("a ")) {
+        const auto ordre = l.substr(std::min(l.find(' ', 2), l.size() - 1) + 1);
+        if (!auteur_de(ordre).empty())
+            dernier_ordre_ =
+                std::max<std::int64_t>(dernier_ordre_, temps + std::llround(base::nombre(l.substr(2)) * 1e6));
+    }
+    for (const std::string_view prise : {"backlash", "azencoding", "altencoding", "cmdraquette", "(2)"})
+        if (auteur_.ends_with(prise))
+            raquette_ = auteur_;
+    attend_ = l.starts_with("avance ");
+    ordonnee_ = dernier_ordre_ >= temps || !minuteur_moteur().empty();
     quitter_ = quitter_ || l.find("frminterface.Quitter") != std::string::npos;
     fichiers_ = fichiers_ || l.starts_with("fichier ");
+}
+
+std::string regles::mouvement() const {
+    if (!auteur_.empty())
+        return auteur_;
+    const auto m = minuteur_moteur();
+    return m.empty() ? "avance" : m == "raquette" ? "raquette, " + raquette_ : std::string{m};
 }
 
 // Direction value alone, or with one step line raised above it.
@@ -97,7 +108,8 @@ std::string regles::ecriture(int adresse, std::uint8_t valeur) {
         return "registre inconnu, " + quoi;
     }
     const bool prise = adresse == plateforme::registre_controle && valeur == 1 && panneau_moteur_charge();
-    if (!peut_ecrire_ && !prise)
+    const bool permise = !auteur_.empty() || (attend_ && (ordonnee_ || !minuteur_moteur().empty()));
+    if (!permise && !prise)
         return "écriture par un acte qui n'est pas un mouvement, " + quoi + ", " + ligne_;
     return {};
 }

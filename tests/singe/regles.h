@@ -11,8 +11,10 @@ namespace singe {
 
 class regles {
   public:
-    /// The line that is about to be carried out.
-    void ligne(const std::string& l);
+    /// The line that is about to be carried out, and virtual time in ns.
+    void ligne(const std::string& l, std::int64_t temps);
+    /// What moves a motor now: the control that was acted on, or a timer.
+    std::string mouvement() const;
     /// Empty, or what is wrong with this write.
     std::string ecriture(int adresse, std::uint8_t valeur);
     /// Empty, or what is wrong with an end by this failure. `explication` names cause and detail.
@@ -25,11 +27,15 @@ class regles {
     bool sens_permis(unsigned valeur);
 
     std::string ligne_;
-    bool peut_ecrire_ = true;
-    bool quitter_ = false;        // an order to quit was given
-    bool fichiers_ = false;       // data files were tampered with
-    bool rafales_ = false;        // tracking was on: bursts and jogs may mix their direction values
-    std::bitset<256> sens_tapes_; // low bytes of the direction values typed so far
+    std::string auteur_;              // what the line acts on, if that may write
+    std::string raquette_;            // what gave the port to the paddle
+    bool attend_ = false;             // the line lets time pass...
+    bool ordonnee_ = false;           // ...in which an order or a timer that was on may write
+    std::int64_t dernier_ordre_ = -1; // when the last such order is due
+    bool quitter_ = false;            // an order to quit was given
+    bool fichiers_ = false;           // data files were tampered with
+    bool rafales_ = false;            // tracking was on: bursts and jogs may mix their direction values
+    std::bitset<256> sens_tapes_;     // low bytes of the direction values typed so far
 };
 
 } // namespace singe

@@ -1,9 +1,10 @@
-// essais_singe GRAINE ACTES [DEPARTS]: plays DEPARTS runs (default 1) of about ACTES acts each, from the
-// start value GRAINE on; prints the shortest scenario found for each fault. Status 1 if there was one.
-// essais_singe GRAINE ACTES 0: prints the run of one start as it was played.
+// essais_singe GRAINE ACTES: lives one life after another, from the start value GRAINE on, until so many acts
+// were carried out; prints the shortest scenario found for each fault. Status 1 if there was one.
+// essais_singe GRAINE: prints the life of one start as it was played.
 // essais_singe FICHIER: plays a scenario under the same watch.
 
 #include "generateur.h"
+#include "platform/virtuelle/scenario.h"
 #include "surveillance.h"
 
 #include <algorithm>
@@ -11,6 +12,7 @@
 #include <fstream>
 #include <iostream>
 #include <map>
+#include <sstream>
 
 namespace {
 
@@ -18,10 +20,10 @@ using singe::verdict;
 
 const std::filesystem::path donnees{VELMORIA_DONNEES};
 
-verdict depart(std::uint64_t graine, int actes) {
-    singe::generateur generateur{graine, actes};
-    return singe::joue_sous_surveillance(
-        [&generateur](const shell::entree* popup) { return generateur.suivante(popup); }, donnees);
+constexpr int actes_d_une_vie = 1000;
+
+verdict vit(std::uint64_t graine) {
+    return singe::joue_sous_surveillance(singe::generateur(graine, actes_d_une_vie), donnees);
 }
 
 verdict rejoue(const std::vector<std::string>& lignes) {
@@ -32,7 +34,7 @@ verdict rejoue(const std::vector<std::string>& lignes) {
 
 // Takes out ever smaller stretches of lines for as long as the same fault stays.
 verdict reduit(verdict v) {
-    int essais = 600;
+    int essais = 400;
     for (std::size_t part = std::max<std::size_t>(1, v.lignes.size() / 2); part > 0 && essais > 0;) {
         bool mieux = false;
         for (std::size_t debut = 0; debut < v.lignes.size() && essais-- > 0;) {
@@ -74,43 +76,89 @@ int joue_fichier(const char* nom) {
     return v.faute.empty() ? 0 : 1;
 }
 
+// The controls that no line of any life acted on. A popup's entry belongs to the panel of the line before it.
+class touches {
+  public:
+    void note(const std::vector<std::string>& lignes) {
+        std::string fiche;
+        for (const auto& l : lignes) {
+            std::istringstream mots{l};
+            std::string mot;
+            std::string sujet;
+            for (mots >> mot >> sujet; mot == "a"; mots >> sujet)
+                mots >> mot;
+            if (mot == "menu")
+                sujet = fiche + "." + sujet;
+            else
+                fiche = sujet.substr(0, sujet.find('.'));
+            ++vus_[mot == "souris" || mot == "touche" ? sujet + " " + mot : sujet];
+        }
+    }
+    void montre() const {
+        std::istringstream rien;
+        std::ostringstream tu;
+        plateforme::joue({rien, "singe", donnees, donnees, tu, tu}); // puts the panels together
+        std::cout << "jamais touché :";
+        for (const auto& c : singe::a_toucher())
+            if (!vus_.contains(c))
+                std::cout << ' ' << c;
+        std::cout << '\n';
+    }
+
+  private:
+    std::map<std::string, int> vus_;
+};
+
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc == 2)
+    if (argc == 2 && std::filesystem::exists(argv[1]))
         return joue_fichier(argv[1]);
-    if (argc < 3 || argc > 4) {
-        std::cerr << "usage : essais_singe GRAINE ACTES [DEPARTS], ou essais_singe FICHIER\n";
+    if (argc < 2 || argc > 3) {
+        std::cerr << "usage : essais_singe GRAINE [ACTES], ou essais_singe FICHIER\n";
         return 2;
     }
-    const auto graine = std::strtoull(argv[1], nullptr, 10);
-    const int actes = std::atoi(argv[2]);
-    const int departs = argc == 4 ? std::atoi(argv[3]) : 1;
+    auto graine = std::strtoull(argv[1], nullptr, 10);
+    if (argc == 2) {
+        montre(vit(graine));
+        return 0;
+    }
+    const auto voulus = std::strtoull(argv[2], nullptr, 10);
     std::map<std::string, std::pair<int, std::uint64_t>> fins; // how often, and the first start value
     std::map<std::string, int> fautes;
-    std::uint64_t lignes = 0;
+    std::map<std::string, int> cessions;
+    touches touches;
+    int vies = 0;
+    std::uint64_t actes = 0;
     std::array<std::uint64_t, 256> ecritures{};
-    if (departs == 0)
-        montre(depart(graine, actes));
-    for (int n = 0; n < departs; ++n) {
-        const auto g = graine + static_cast<std::uint64_t>(n);
-        const auto v = depart(g, actes);
-        lignes += v.lignes.size();
+    for (; actes < voulus; ++graine, ++vies) {
+        const auto v = vit(graine);
+        actes += v.actes;
+        touches.note(v.lignes);
         for (std::size_t i = 0; i < ecritures.size(); ++i)
             ecritures[i] += v.ecritures[i];
-        auto& fin = fins[v.fin.substr(0, v.fin.find(" : ", 4))];
+        std::istringstream table{v.cessions};
+        std::string n;
+        for (std::string m; std::getline(table, m, '\t') && std::getline(table, n);)
+            cessions[m] += std::stoi(n);
+        auto& fin = fins[v.fin];
         if (fin.first++ == 0)
-            fin.second = g;
+            fin.second = graine;
         if (v.faute.empty() || ++fautes[v.faute] > 1)
             continue; // the same fault is told once
-        std::cout << "# graine " << g << " : " << v.lignes.size() << " lignes : " << v.faute << std::endl;
+        std::cout << "# graine " << graine << " : " << v.lignes.size() << " lignes : " << v.faute
+                  << std::endl;
         montre(reduit(v));
     }
-    std::cout << "départs " << departs << ", lignes " << lignes << "\nécritures sur 888 :";
+    std::cout << "vies " << vies << ", actes " << actes << "\nordres joués dans les cessions :";
+    for (const auto& [mouvement, n] : cessions)
+        std::cout << ' ' << mouvement << " x " << n;
+    std::cout << "\nécritures sur 888 :";
     for (std::size_t i = 0; i < ecritures.size(); ++i)
         if (ecritures[i] > 0)
             std::cout << ' ' << i << " x " << ecritures[i];
     std::cout << '\n';
+    touches.montre();
     for (const auto& [fin, n] : fins)
         std::cout << "  " << n.first << " x fin " << fin << " (graine " << n.second << ")\n";
     for (const auto& [faute, n] : fautes)

@@ -7,10 +7,12 @@
 #include "regles.h"
 #include "shell/programme.h"
 #include "sky/position.h"
+#include "tracking/frmaltazsuivi_champs.h"
 
 #include <cmath>
 #include <csignal>
 #include <cstring>
+#include <map>
 #include <sstream>
 #include <streambuf>
 #include <sys/mman.h>
@@ -29,10 +31,12 @@ constexpr int secondes_maximum = 12;                 // and neither does a slowe
 
 // What the child leaves behind, also when it dies.
 struct bilan {
-    char lignes[1 << 20];
+    char lignes[1 << 22];
     std::size_t longueur;
     char faute[4096];
     char fin[4096];
+    char cessions[8192];
+    std::uint64_t actes;
     std::uint64_t ecritures;
     std::array<std::uint64_t, 256> par_valeur;
     bool fini;
@@ -41,6 +45,9 @@ struct bilan {
 bilan* b = nullptr; // shared with the child
 regles* r = nullptr;
 const shell::entree* popup = nullptr;
+plateforme::boucle_virtuelle* virtuelle = nullptr;
+bool vivant = true;                  // the program, until its end of whatever kind
+std::map<std::string, int> cessions; // acts ordered for the yields of each motion, as they ran
 volatile std::int64_t temps_vu = -1; // virtual time at the last look of the watchdog
 int coups = 0;
 
@@ -49,6 +56,10 @@ template <std::size_t N> void note(char (&ou)[N], const std::string& s) {
 }
 
 [[noreturn]] void termine() {
+    std::string texte;
+    for (const auto& [mouvement, n] : cessions)
+        texte += mouvement + '\t' + std::to_string(n) + '\n';
+    note(b->cessions, texte);
     b->fini = true;
     std::_Exit(0);
 }
@@ -60,11 +71,17 @@ void juge(const std::string& faute) {
     termine();
 }
 
+void verifie_position() {
+    if (!std::isfinite(general::posaz) || !std::isfinite(general::posalt))
+        juge("position qui n'est pas un nombre");
+}
+
 class port_espion final : public plateforme::port {
   public:
     explicit port_espion(plateforme::port& p) : port_(p) {}
     void ecrit(int adresse, std::uint8_t valeur) override {
         juge(r->ecriture(adresse, valeur));
+        verifie_position();
         port_.ecrit(adresse, valeur);
         if (adresse == plateforme::registre_donnees)
             ++b->par_valeur[valeur];
@@ -75,6 +92,32 @@ class port_espion final : public plateforme::port {
 
   private:
     plateforme::port& port_;
+};
+
+// Counts what runs in the yields of motions, and sees the end of the program.
+class boucle_espion final : public plateforme::boucle {
+  public:
+    void attend(std::int64_t ns) override { virtuelle->attend(ns); }
+    void cede() override {
+        const int attendaient = virtuelle->ordres();
+        const int dessous = joues_;
+        virtuelle->cede();
+        const int n = attendaient - virtuelle->ordres() - (joues_ - dessous);
+        if (n <= 0)
+            return;
+        joues_ += n;
+        cessions[r->mouvement()] += n;
+    }
+    void arme(shell::minuteur& m, int ms) override { virtuelle->arme(m, ms); }
+    void desarme(shell::minuteur& m) override { virtuelle->desarme(m); }
+    [[noreturn]] void termine(int statut) override {
+        vivant = false;
+        virtuelle->termine(statut);
+        std::abort();
+    }
+
+  private:
+    int joues_ = 0; // nested yields' own included
 };
 
 // Knows which popup is open; the rest is the scenario's own view.
@@ -101,8 +144,7 @@ class vue_espion final : public plateforme::vue {
 };
 
 void verifie_au_repos() {
-    if (!std::isfinite(general::posaz) || !std::isfinite(general::posalt))
-        juge("position qui n'est pas un nombre");
+    verifie_position();
     for (const auto* p : programme::registre().panneaux)
         if (p->est_visible() && !p->est_charge())
             juge("panneau montré sans être chargé, " + std::string{p->nom()});
@@ -118,9 +160,14 @@ class souffleur final : public std::streambuf {
         if (!port_) {
             port_ = std::make_unique<port_espion>(*plateforme::courante.port);
             vue_ = std::make_unique<vue_espion>(*plateforme::courante.vue);
+            virtuelle = dynamic_cast<plateforme::boucle_virtuelle*>(plateforme::courante.boucle);
+            plateforme::courante.boucle = &boucle_;
             plateforme::courante.port = port_.get();
             plateforme::courante.vue = vue_.get();
         }
+        vivant = vivant && !shell::est_gele();
+        if (!vivant)
+            return traits_type::eof();
         verifie_au_repos();
         const auto* ouvert = std::exchange(popup, nullptr); // one answer a popup
         ligne_ = source_(ouvert);
@@ -129,7 +176,12 @@ class souffleur final : public std::streambuf {
         ligne_ += '\n';
         std::memcpy(b->lignes + b->longueur, ligne_.data(), ligne_.size());
         b->longueur += ligne_.size();
-        r->ligne(ligne_.substr(0, ligne_.size() - 1));
+        r->ligne(ligne_.substr(0, ligne_.size() - 1), virtuelle->temps());
+        if (!ligne_.starts_with("a ")) {
+            ++b->actes;
+            if (frmaltazsuivi::cmdstop.regarde_texte() == "reprise")
+                ++cessions["au repos, suivi en pause"];
+        }
         setg(ligne_.data(), ligne_.data(), ligne_.data() + ligne_.size());
         return traits_type::to_int_type(ligne_.front());
     }
@@ -139,12 +191,12 @@ class souffleur final : public std::streambuf {
     std::string ligne_;
     std::unique_ptr<port_espion> port_;
     std::unique_ptr<vue_espion> vue_;
+    boucle_espion boucle_;
 };
 
-// Once a second: a run may be slow, but time or the port must move.
+// Once a second of work: a run may be slow, but time or the port must move.
 void chien_de_garde(int) {
-    const auto* boucle = dynamic_cast<plateforme::boucle_virtuelle*>(plateforme::courante.boucle);
-    const std::int64_t temps = boucle ? boucle->temps() : 0;
+    const std::int64_t temps = virtuelle ? virtuelle->temps() : 0;
     const bool bouge = temps != temps_vu;
     temps_vu = temps;
     if (++coups < secondes_maximum)
@@ -157,9 +209,9 @@ void chien_de_garde(int) {
 }
 
 [[noreturn]] void joue_dans_l_enfant(const source& lignes, const fs::path& donnees) {
-    std::signal(SIGALRM, chien_de_garde);
+    std::signal(SIGPROF, chien_de_garde);
     const itimerval seconde{{1, 0}, {1, 0}};
-    setitimer(ITIMER_REAL, &seconde, nullptr);
+    setitimer(ITIMER_PROF, &seconde, nullptr);
     regles les_regles;
     r = &les_regles;
     souffleur tampon{lignes};
@@ -182,7 +234,10 @@ void chien_de_garde(int) {
     note(b->fin, std::to_string(statut) + (dit.empty() ? "" : " : " + dit));
     if (statut == 3)
         juge(les_regles.echec(dit));
-    else if (statut != 0 && !(dit.starts_with("un mouvement continue") && les_regles.rafale_d_un_jour()))
+    // An order's popup may not have opened, or another one.
+    else if (statut != 0 && !dit.starts_with("commande inconnue : \"menu\"") &&
+             !dit.starts_with("le menu n'a pas") &&
+             !(dit.starts_with("un mouvement continue") && les_regles.rafale_d_un_jour()))
         juge("statut " + std::to_string(statut) + " : " + dit);
     termine();
 }
@@ -209,9 +264,9 @@ verdict joue_sous_surveillance(const source& lignes, const fs::path& donnees) {
         mmap(nullptr, sizeof(bilan), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
     b = partage;
     b->longueur = 0;
-    b->ecritures = 0;
+    b->actes = b->ecritures = 0;
     b->par_valeur.fill(0);
-    b->faute[0] = b->fin[0] = 0;
+    b->faute[0] = b->fin[0] = b->cessions[0] = 0;
     b->fini = false;
     std::string dossier = (fs::temp_directory_path() / "singe-XXXXXX").string();
     if (b == MAP_FAILED || !mkdtemp(dossier.data()))
@@ -227,7 +282,7 @@ verdict joue_sous_surveillance(const source& lignes, const fs::path& donnees) {
     if (enfant < 0 || waitpid(enfant, &etat, 0) != enfant)
         std::abort();
     fs::remove_all(dossier);
-    verdict v{b->faute, b->fin, contenu(erreurs), {}, b->par_valeur};
+    verdict v{b->faute, b->fin, contenu(erreurs), b->cessions, b->actes, {}, b->par_valeur};
     close(erreurs);
     if (!b->fini)
         v.faute = sans_bilan(etat);
