@@ -331,35 +331,30 @@ class personne {
         return l;
     }
 
-    // The usual ways into the work, so that most runs get to motions. A plus takes an object.
+    // The usual ways into the work, so that most runs get to motions: clicks, or lines as they stand.
     void prelude() {
-        static constexpr const char* chemins[] = {
-            "",
-            "barchoix(1) barequa(2)",
-            "barchoix(1) barequa(3)",
-            "barchoix(1) barequa(3) frmequapilot.cmdgo",
-            "barchoix(1) barequa(4)",
-            "barchoix(1) barequa(4) frmequapointage.picpointage",
-            "barchoix(1) barequa(5) frmequaconfig.cmdbacklash",
-            "barchoix(2) baraltaz(3)",
-            "barchoix(2) baraltaz(6) frmconfig.cmdinitcoord frmconfig.cmdbacklash",
-            "barchoix(2) baraltaz(6) frmconfig.cmdinitcoord frmconfig.cmdazencoding",
-            "barchoix(2) baraltaz(6) frmconfig.cmdinitcoord baraltaz(4)",
-            "barchoix(2) baraltaz(4) frmaltazpointage.cmdpointage_graph",
-            "barchoix(2) baraltaz(6) frmconfig.cmdinitcoord + baraltaz(5) frmaltazsuivi.cmdcalcul",
-            "barchoix(2) baraltaz(6) frmconfig.cmdinitcoord + baraltaz(2)"};
+        static constexpr const char* debuts[] = {"", "barchoix(1);barequa(",
+                                                 "barchoix(2);frmconfig.cmdinitcoord;baraltaz("};
+        static constexpr const char* suites[][8] = {
+            {""},
+            {"2)", "3)", "3);frmequapilot.cmdgo", "4);frmequapointage.picpointage",
+             "5);frmequaconfig.cmdbacklash",
+             "4);double frmequapointage.lbEtoiles 7;choisit frmequapointage.lbCatalogue 0",
+             "4);double frmequapointage.lbEtoiles 30;choisit frmequapointage.lbCatalogue 1",
+             "4);double frmequapointage.lbEtoiles 9;frmequapointage.picpointage"},
+            {"2)", "3)", "4)", "6);frmconfig.cmdbacklash", "6);frmconfig.cmdazencoding",
+             "4);frmaltazpointage.cmdpointage_graph", "4);choisit frmaltazpointage.lbCatalogue 0",
+             "6);choisit frmconfig.lbObjets 12;frmconfig.cmdchoix;baraltaz(5);frmaltazsuivi.cmdcalcul"}};
         file_.push_back("horloge 2001-0" + to_string(entre(1, 9)) + "-15 22:00:0" + to_string(entre(0, 9)));
         if (une_fois_sur(12))
             file_.push_back(fichier_gate());
         file_.emplace_back("demarre");
-        std::istringstream pas{parmi(chemins)};
-        for (std::string p; pas >> p;) {
-            if (p == "+") {
-                file_.push_back("choisit frmconfig.lbObjets " + to_string(entre(0, 40)));
-                p = "frmconfig.cmdchoix";
-            }
-            file_.push_back((p.starts_with("bar") ? "clic frminterface." : "clic ") + p);
-        }
+        const int mode = une_fois_sur(12) ? 0 : entre(1, 2);
+        std::istringstream pas{debuts[mode] + std::string{mode == 0 ? "" : parmi(suites[mode])}};
+        for (std::string p; std::getline(pas, p, ';');)
+            file_.push_back(p.find(' ') != std::string::npos
+                                ? p
+                                : (p.starts_with("bar") ? "clic frminterface." : "clic ") + p);
     }
 };
 

@@ -8,6 +8,7 @@
 #include "surveillance.h"
 
 #include <algorithm>
+#include <csignal>
 #include <cstdlib>
 #include <fstream>
 #include <iostream>
@@ -20,6 +21,7 @@ using singe::verdict;
 
 const std::filesystem::path donnees{VELMORIA_DONNEES};
 
+volatile std::sig_atomic_t assez = 0; // by SIGTERM: the life under way is the last
 constexpr int actes_d_une_vie = 1000;
 
 verdict vit(std::uint64_t graine) {
@@ -131,7 +133,8 @@ int main(int argc, char** argv) {
     int vies = 0;
     std::uint64_t actes = 0;
     std::array<std::uint64_t, 256> ecritures{};
-    for (; actes < voulus; ++graine, ++vies) {
+    std::signal(SIGTERM, [](int) { assez = 1; });
+    for (; actes < voulus && !assez; ++graine, ++vies) {
         const auto v = vit(graine);
         actes += v.actes;
         touches.note(v.lignes);
