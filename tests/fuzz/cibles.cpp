@@ -145,7 +145,13 @@ void notes(std::string_view octets) {
 }
 
 void almanach(std::string_view octets) {
-    avec_panneaux("date/2001/janvier/sg0.txt", octets, [] {
+    static const bool pret = [] {
+        avec_panneaux("date/2001/janvier/sg0.txt", "", [] { frmcoord::fiche.charge(); });
+        return frmcoord::fiche.est_charge(); // and stays so: nothing of it is left over but the month
+    }();
+    avec_fichier("date/2001/janvier/sg0.txt", octets, [] {
+        if (!pret)
+            std::abort();
         frmcoord::cbannee.position(1);
         frmcoord::cbmois.position(0);
         for (const int jour : {0, 15, 30}) {
