@@ -64,8 +64,9 @@ int poids(const shell::controle& c) {
     case genre::bouton:
     case genre::outil:
     case genre::liste:
-    case genre::surface:
         return 16;
+    case genre::surface:
+        return 80;
     case genre::texte:
     case genre::deroulante:
         return 3;
@@ -76,13 +77,11 @@ int poids(const shell::controle& c) {
 
 // A panel that can move the telescope draws more attention than a page of help.
 int poids(const shell::panneau& p) {
-    return std::any_of(p.controles().begin(), p.controles().end(),
-                       [](const auto* c) {
-                           return c->a(shell::arret) || c->espece() == genre::liste ||
-                                  c->espece() == genre::minuteur;
-                       })
-               ? 5
-               : 2;
+    for (const auto* c : p.controles())
+        if (!p.options().principal && (c->a(shell::arret) || c->espece() == genre::liste ||
+                                       c->espece() == genre::minuteur || c->espece() == genre::surface))
+            return 5;
+    return 2;
 }
 
 bool suit() {
@@ -281,8 +280,11 @@ class personne {
 
     // Every motion must have what ends it: the stops on screen, that of the slew to come, the paddle
     // released.
-    void arrets() {
-        for (const auto& quand : {duree(0.01, 2000), duree(500, 4000)}) {
+    // A slew may be let go to its end.
+    void arrets(bool pointage) {
+        const double fois = pointage && une_fois_sur(2) ? 100 : 1;
+        for (const auto& quand :
+             {duree(fois > 1 ? 5000 : 0.01, 2000 * fois), duree(500 * fois, 4000 * fois)}) {
             for (const auto* p : programme::registre().panneaux)
                 for (const auto* c : p->controles())
                     if (c->a(shell::arret) &&
@@ -303,7 +305,7 @@ class personne {
             if (une_fois_sur(2))
                 for (int n = entre(1, suit() ? 12 : 4); n > 0; --n)
                     ordre();
-            arrets();
+            arrets(a.starts_with("double ") || a.starts_with("souris ") || a.ends_with(".bOK"));
         }
         file_.push_back(a);
     }
@@ -343,7 +345,7 @@ class personne {
              "4);double frmequapointage.lbEtoiles 30;choisit frmequapointage.lbCatalogue 1",
              "4);double frmequapointage.lbEtoiles 9;frmequapointage.picpointage"},
             {"2)", "3)", "4)", "6);frmconfig.cmdbacklash", "6);frmconfig.cmdazencoding",
-             "4);frmaltazpointage.cmdpointage_graph", "4);choisit frmaltazpointage.lbCatalogue 0",
+             "4);frmaltazpointage.cmdpointage_graph", "4);double frmaltazpointage.lbObjets 12",
              "6);choisit frmconfig.lbObjets 12;frmconfig.cmdchoix;baraltaz(5);frmaltazsuivi.cmdcalcul"}};
         file_.push_back("horloge 2001-0" + to_string(entre(1, 9)) + "-15 22:00:0" + to_string(entre(0, 9)));
         if (une_fois_sur(12))

@@ -55,7 +55,8 @@ bool panneau_moteur_charge() {
 } // namespace
 
 void regles::ligne(const std::string& l, std::int64_t temps) {
-    ligne_ = l;
+    attend_ = l.starts_with("avance ");
+    acte_ = attend_ ? "avance" : l.substr(0, l.find(' ', std::min(l.find(' '), l.size() - 1) + 1));
     auteur_ = auteur_de(l);
     if (l.starts_with("a ")) {
         const auto ordre = l.substr(std::min(l.find(' ', 2), l.size() - 1) + 1);
@@ -66,7 +67,6 @@ void regles::ligne(const std::string& l, std::int64_t temps) {
     for (const std::string_view prise : {"backlash", "azencoding", "altencoding", "cmdraquette", "(2)"})
         if (auteur_.ends_with(prise))
             raquette_ = auteur_;
-    attend_ = l.starts_with("avance ");
     ordonnee_ = dernier_ordre_ >= temps || !minuteur_moteur().empty();
     quitter_ = quitter_ || l.find("frminterface.Quitter") != std::string::npos;
     fichiers_ = fichiers_ || l.starts_with("fichier ");
@@ -110,7 +110,7 @@ std::string regles::ecriture(int adresse, std::uint8_t valeur) {
     const bool prise = adresse == plateforme::registre_controle && valeur == 1 && panneau_moteur_charge();
     const bool permise = !auteur_.empty() || (attend_ && (ordonnee_ || !minuteur_moteur().empty()));
     if (!permise && !prise)
-        return "écriture par un acte qui n'est pas un mouvement, " + quoi + ", " + ligne_;
+        return "écriture par un acte qui n'est pas un mouvement, " + quoi + ", " + acte_;
     return {};
 }
 
@@ -128,6 +128,7 @@ bool regles::rafale_d_un_jour() const {
 constexpr std::string_view echecs[] = {"division par zéro : angle d'un pas",
                                        "division par zéro : config_equa.ini",
                                        "division par zéro : passeconde",
+                                       "division par zéro : nombre d'impulsions",
                                        "division par zéro : azimut",
                                        "division par zéro : angle horaire",
                                        "division par zéro : arc",

@@ -26,7 +26,7 @@ class regles {
   private:
     bool sens_permis(unsigned valeur);
 
-    std::string ligne_;
+    std::string acte_;                // verb and control
     std::string auteur_;              // what the line acts on, if that may write
     std::string raquette_;            // what gave the port to the paddle
     bool attend_ = false;             // the line lets time pass...

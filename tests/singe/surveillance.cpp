@@ -26,8 +26,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::uint64_t ecritures_maximum = 200'000; // a longer run proves no more
-constexpr int secondes_maximum = 12;                 // and neither does a slower one
+constexpr std::uint64_t ecritures_maximum = 1'000'000; // a longer run proves no more
+constexpr int secondes_maximum = 12;                   // and neither does a slower one
 
 // What the child leaves behind, also when it dies.
 struct bilan {
@@ -242,10 +242,12 @@ void chien_de_garde(int) {
     termine();
 }
 
-std::string sans_bilan(int etat) {
-    if (WIFSIGNALED(etat))
-        return "arrêt brutal, signal " + std::to_string(WTERMSIG(etat));
-    return "arrêt brutal, statut " + std::to_string(WEXITSTATUS(etat));
+// How it died, and the sanitizer's last word if it has one: two crashes are not one.
+std::string sans_bilan(int etat, const std::string& trace) {
+    const auto mot = trace.find("SUMMARY: ");
+    return (WIFSIGNALED(etat) ? "arrêt brutal, signal " + std::to_string(WTERMSIG(etat))
+                              : "arrêt brutal, statut " + std::to_string(WEXITSTATUS(etat))) +
+           (mot == std::string::npos ? "" : ", " + trace.substr(mot, trace.find('\n', mot) - mot));
 }
 
 std::string contenu(int fd) {
@@ -285,7 +287,7 @@ verdict joue_sous_surveillance(const source& lignes, const fs::path& donnees) {
     verdict v{b->faute, b->fin, contenu(erreurs), b->cessions, b->actes, {}, b->par_valeur};
     close(erreurs);
     if (!b->fini)
-        v.faute = sans_bilan(etat);
+        v.faute = sans_bilan(etat, v.trace);
     std::istringstream texte{std::string{b->lignes, b->longueur}};
     for (std::string l; std::getline(texte, l);)
         v.lignes.push_back(l);
