@@ -17,7 +17,8 @@ namespace singe {
 
 namespace {
 
-// Motions and mode commands by what starts them; the chart's slew is an entry of its popup.
+// Motions and mode commands by what starts them; the chart's slew is an entry of its popup,
+// and the trackings go on by their timers.
 constexpr std::string_view auteurs =
     " frminterface.barequa(1) frminterface.barequa(2) frminterface.barequa(3) frminterface.baraltaz(1)"
     " frminterface.baraltaz(2) frminterface.baraltaz(3) frminterface.baraltaz(5) frminterface.bargeneral(1)"
@@ -26,7 +27,7 @@ constexpr std::string_view auteurs =
     " frmaltazpilot.cmdhh frmequapilot.cmdag frmequapilot.cmdad frmequapilot.cmdhb frmequapilot.cmdhh"
     " frmaltazsuivi.cmdraquette frmconfig.cmdaltencoding frmconfig.cmdazencoding frmconfig.cmdbacklash"
     " frmequaconfig.cmdbacklash frmaltazpointage.lbObjets frmequapointage.lbObjets frmequapointage.bOK"
-    " mnuPoint ";
+    " mnuPoint frmequapilot.cmdgo frmaltazsuivi.cmdcalcul frmaltazsuivi.cmdstop ";
 
 // The one of these that a command acts on; empty if there is none.
 std::string auteur_de(const std::string& commande) {

@@ -13,6 +13,7 @@
 #include <fstream>
 #include <iostream>
 #include <map>
+#include <set>
 #include <sstream>
 
 namespace {
@@ -78,38 +79,69 @@ int joue_fichier(const char* nom) {
     return v.faute.empty() ? 0 : 1;
 }
 
-// The controls that no line of any life acted on. A popup's entry belongs to the panel of the line before it.
-class touches {
-  public:
-    void note(const std::vector<std::string>& lignes) {
-        std::string fiche;
-        for (const auto& l : lignes) {
-            std::istringstream mots{l};
-            std::string mot;
-            std::string sujet;
-            for (mots >> mot >> sujet; mot == "a"; mots >> sujet)
-                mots >> mot;
-            if (mot == "menu")
-                sujet = fiche + "." + sujet;
-            else
-                fiche = sujet.substr(0, sujet.find('.'));
-            ++vus_[mot == "souris" || mot == "touche" ? sujet + " " + mot : sujet];
-        }
+// What lines act on. A popup's entry belongs to the panel of the line before it.
+void note_touches(const std::vector<std::string>& lignes, std::set<std::string>& touches) {
+    std::string fiche;
+    for (const auto& l : lignes) {
+        std::istringstream mots{l};
+        std::string mot;
+        std::string sujet;
+        for (mots >> mot >> sujet; mot == "a"; mots >> sujet)
+            mots >> mot;
+        if (mot == "menu")
+            sujet = fiche + "." + sujet;
+        else
+            fiche = sujet.substr(0, sujet.find('.'));
+        touches.insert(mot == "souris" || mot == "touche" ? sujet + " " + mot : sujet);
     }
-    void montre() const {
-        std::istringstream rien;
-        std::ostringstream tu;
-        plateforme::joue({rien, "singe", donnees, donnees, tu, tu}); // puts the panels together
-        std::cout << "jamais touché :";
-        for (const auto& c : singe::a_toucher())
-            if (!vus_.contains(c))
-                std::cout << ' ' << c;
-        std::cout << '\n';
-    }
+}
 
-  private:
-    std::map<std::string, int> vus_;
-};
+void montre_jamais(const std::set<std::string>& touches) {
+    std::istringstream rien;
+    std::ostringstream tu;
+    plateforme::joue({rien, "singe", donnees, donnees, tu, tu}); // puts the panels together
+    std::cout << "jamais touché :";
+    for (const auto& c : singe::a_toucher())
+        if (!touches.contains(c))
+            std::cout << ' ' << c;
+    std::cout << '\n';
+}
+
+// Lives from this start value on. Whether one found a fault.
+bool vies(std::uint64_t graine, std::uint64_t voulus) {
+    std::map<std::string, std::pair<std::uint64_t, std::uint64_t>>
+        comptes; // how much, and the first start value
+    std::set<std::string> touches;
+    std::set<std::string> fautes;
+    std::uint64_t actes = 0;
+    for (; actes < voulus && !assez; ++graine) {
+        const auto v = vit(graine);
+        const auto compte = [&](const std::string& quoi, std::uint64_t n) {
+            comptes.try_emplace(quoi, 0, graine).first->second.first += n;
+        };
+        for (const auto& l : v.lignes)
+            actes += l.starts_with("a ") ? 0 : 1;
+        note_touches(v.lignes, touches);
+        std::istringstream table{v.comptes};
+        std::string n;
+        for (std::string m; std::getline(table, m, '\t') && std::getline(table, n);)
+            compte(m, std::stoull(n));
+        compte("fin " + v.fin, 1);
+        if (v.faute.empty())
+            continue;
+        compte("FAUTE " + v.faute, 1);
+        if (!fautes.insert(v.faute).second)
+            continue; // the same fault is told once
+        std::cout << "# graine " << graine << " : " << v.lignes.size() << " lignes : " << v.faute
+                  << std::endl;
+        montre(reduit(v));
+    }
+    for (const auto& [quoi, n] : comptes)
+        std::cout << n.first << " x " << quoi << " (graine " << n.second << ")\n";
+    montre_jamais(touches);
+    std::cout << "actes " << actes << '\n';
+    return !fautes.empty();
+}
 
 } // namespace
 
@@ -120,51 +152,10 @@ int main(int argc, char** argv) {
         std::cerr << "usage : essais_singe GRAINE [ACTES], ou essais_singe FICHIER\n";
         return 2;
     }
-    auto graine = std::strtoull(argv[1], nullptr, 10);
-    if (argc == 2) {
-        montre(vit(graine));
-        return 0;
-    }
-    const auto voulus = std::strtoull(argv[2], nullptr, 10);
-    std::map<std::string, std::pair<int, std::uint64_t>> fins; // how often, and the first start value
-    std::map<std::string, int> fautes;
-    std::map<std::string, int> cessions;
-    touches touches;
-    int vies = 0;
-    std::uint64_t actes = 0;
-    std::array<std::uint64_t, 256> ecritures{};
     std::signal(SIGTERM, [](int) { assez = 1; });
-    for (; actes < voulus && !assez; ++graine, ++vies) {
-        const auto v = vit(graine);
-        actes += v.actes;
-        touches.note(v.lignes);
-        for (std::size_t i = 0; i < ecritures.size(); ++i)
-            ecritures[i] += v.ecritures[i];
-        std::istringstream table{v.cessions};
-        std::string n;
-        for (std::string m; std::getline(table, m, '\t') && std::getline(table, n);)
-            cessions[m] += std::stoi(n);
-        auto& fin = fins[v.fin];
-        if (fin.first++ == 0)
-            fin.second = graine;
-        if (v.faute.empty() || ++fautes[v.faute] > 1)
-            continue; // the same fault is told once
-        std::cout << "# graine " << graine << " : " << v.lignes.size() << " lignes : " << v.faute
-                  << std::endl;
-        montre(reduit(v));
-    }
-    std::cout << "vies " << vies << ", actes " << actes << "\nordres joués dans les cessions :";
-    for (const auto& [mouvement, n] : cessions)
-        std::cout << ' ' << mouvement << " x " << n;
-    std::cout << "\nécritures sur 888 :";
-    for (std::size_t i = 0; i < ecritures.size(); ++i)
-        if (ecritures[i] > 0)
-            std::cout << ' ' << i << " x " << ecritures[i];
-    std::cout << '\n';
-    touches.montre();
-    for (const auto& [fin, n] : fins)
-        std::cout << "  " << n.first << " x fin " << fin << " (graine " << n.second << ")\n";
-    for (const auto& [faute, n] : fautes)
-        std::cout << "  " << n << " x FAUTE " << faute << '\n';
-    return fautes.empty() ? 0 : 1;
+    const auto graine = std::strtoull(argv[1], nullptr, 10);
+    if (argc == 3)
+        return vies(graine, std::strtoull(argv[2], nullptr, 10)) ? 1 : 0;
+    montre(vit(graine));
+    return 0;
 }

@@ -1,6 +1,6 @@
 #include "surveillance.h"
 
-#include "bench/monture.h"
+#include "base/octets.h"
 #include "platform/plateforme.h"
 #include "platform/virtuelle/meneur.h"
 #include "platform/vue.h"
@@ -26,8 +26,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::uint64_t ecritures_maximum = 1'000'000; // a longer run proves no more
-constexpr int secondes_maximum = 12;                   // and neither does a slower one
+constexpr int ecritures_maximum = 1'000'000; // a longer run proves no more
+constexpr int secondes_maximum = 12;         // and neither does a slower one
 
 // What the child leaves behind, also when it dies.
 struct bilan {
@@ -35,10 +35,7 @@ struct bilan {
     std::size_t longueur;
     char faute[4096];
     char fin[4096];
-    char cessions[8192];
-    std::uint64_t actes;
-    std::uint64_t ecritures;
-    std::array<std::uint64_t, 256> par_valeur;
+    char comptes[16384];
     bool fini;
 };
 
@@ -46,8 +43,10 @@ bilan* b = nullptr; // shared with the child
 regles* r = nullptr;
 const shell::entree* popup = nullptr;
 plateforme::boucle_virtuelle* virtuelle = nullptr;
-bool vivant = true;                  // the program, until its end of whatever kind
-std::map<std::string, int> cessions; // acts ordered for the yields of each motion, as they ran
+bool vivant = true;                 // the program, until its end of whatever kind
+std::map<std::string, int> comptes; // what ran in which motion's yields
+int ecritures = 0;
+int par_valeur[256];                 // on the data register
 volatile std::int64_t temps_vu = -1; // virtual time at the last look of the watchdog
 int coups = 0;
 
@@ -56,10 +55,13 @@ template <std::size_t N> void note(char (&ou)[N], const std::string& s) {
 }
 
 [[noreturn]] void termine() {
+    for (int v = 0; v < 256; ++v)
+        if (par_valeur[v] > 0)
+            comptes["écritures 888:" + std::to_string(v)] = par_valeur[v];
     std::string texte;
-    for (const auto& [mouvement, n] : cessions)
-        texte += mouvement + '\t' + std::to_string(n) + '\n';
-    note(b->cessions, texte);
+    for (const auto& [quoi, n] : comptes)
+        texte += quoi + '\t' + std::to_string(n) + '\n';
+    note(b->comptes, texte);
     b->fini = true;
     std::_Exit(0);
 }
@@ -84,8 +86,8 @@ class port_espion final : public plateforme::port {
         verifie_position();
         port_.ecrit(adresse, valeur);
         if (adresse == plateforme::registre_donnees)
-            ++b->par_valeur[valeur];
-        if (++b->ecritures >= ecritures_maximum)
+            ++par_valeur[valeur];
+        if (++ecritures >= ecritures_maximum)
             throw plateforme::fin_du_scenario{};
     }
     std::uint8_t lit(int adresse) override { return port_.lit(adresse); }
@@ -106,7 +108,7 @@ class boucle_espion final : public plateforme::boucle {
         if (n <= 0)
             return;
         joues_ += n;
-        cessions[r->mouvement()] += n;
+        comptes["ordres dans les cessions de " + r->mouvement()] += n;
     }
     void arme(shell::minuteur& m, int ms) override { virtuelle->arme(m, ms); }
     void desarme(shell::minuteur& m) override { virtuelle->desarme(m); }
@@ -177,11 +179,8 @@ class souffleur final : public std::streambuf {
         std::memcpy(b->lignes + b->longueur, ligne_.data(), ligne_.size());
         b->longueur += ligne_.size();
         r->ligne(ligne_.substr(0, ligne_.size() - 1), virtuelle->temps());
-        if (!ligne_.starts_with("a ")) {
-            ++b->actes;
-            if (frmaltazsuivi::cmdstop.regarde_texte() == "reprise")
-                ++cessions["au repos, suivi en pause"];
-        }
+        if (!ligne_.starts_with("a ") && frmaltazsuivi::cmdstop.regarde_texte() == "reprise")
+            ++comptes["actes pendant la pause du suivi"];
         setg(ligne_.data(), ligne_.data(), ligne_.data() + ligne_.size());
         return traits_type::to_int_type(ligne_.front());
     }
@@ -250,15 +249,6 @@ std::string sans_bilan(int etat, const std::string& trace) {
            (mot == std::string::npos ? "" : ", " + trace.substr(mot, trace.find('\n', mot) - mot));
 }
 
-std::string contenu(int fd) {
-    std::string s;
-    char bloc[4096];
-    lseek(fd, 0, SEEK_SET);
-    for (ssize_t n = read(fd, bloc, sizeof bloc); n > 0; n = read(fd, bloc, sizeof bloc))
-        s.append(bloc, static_cast<std::size_t>(n));
-    return s;
-}
-
 } // namespace
 
 verdict joue_sous_surveillance(const source& lignes, const fs::path& donnees) {
@@ -266,26 +256,23 @@ verdict joue_sous_surveillance(const source& lignes, const fs::path& donnees) {
         mmap(nullptr, sizeof(bilan), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
     b = partage;
     b->longueur = 0;
-    b->actes = b->ecritures = 0;
-    b->par_valeur.fill(0);
-    b->faute[0] = b->fin[0] = b->cessions[0] = 0;
+    b->faute[0] = b->fin[0] = b->comptes[0] = 0;
     b->fini = false;
     std::string dossier = (fs::temp_directory_path() / "singe-XXXXXX").string();
     if (b == MAP_FAILED || !mkdtemp(dossier.data()))
         std::abort();
-    const int erreurs = memfd_create("erreurs", 0);
+    const auto erreurs = dossier + "/erreurs";
     const pid_t enfant = fork();
     if (enfant == 0) {
-        setenv("TMPDIR", dossier.c_str(), 1);
-        dup2(erreurs, STDERR_FILENO);
+        if (setenv("TMPDIR", dossier.c_str(), 1) != 0 || !std::freopen(erreurs.c_str(), "w", stderr))
+            std::abort();
         joue_dans_l_enfant(lignes, donnees);
     }
     int etat = 0;
     if (enfant < 0 || waitpid(enfant, &etat, 0) != enfant)
         std::abort();
+    verdict v{b->faute, b->fin, base::lit_fichier(erreurs), b->comptes, {}};
     fs::remove_all(dossier);
-    verdict v{b->faute, b->fin, contenu(erreurs), b->cessions, b->actes, {}, b->par_valeur};
-    close(erreurs);
     if (!b->fini)
         v.faute = sans_bilan(etat, v.trace);
     std::istringstream texte{std::string{b->lignes, b->longueur}};

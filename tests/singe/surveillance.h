@@ -1,9 +1,6 @@
 // One scenario played under watch, in a process of its own.
 #pragma once
 
-#include <array>
-#include <cstddef>
-#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -19,13 +16,11 @@ namespace singe {
 using source = std::function<std::string(const shell::entree*)>;
 
 struct verdict {
-    std::string faute;       ///< empty: none. The same fault gives the same text
-    std::string fin;         ///< how the run ended: its status, or what a failure named
-    std::string trace;       ///< what went to standard error
-    std::string cessions;    ///< lines of a motion, a tab and how many orders ran in its yields
-    std::uint64_t actes = 0; ///< lines carried out, orders apart
+    std::string faute;   ///< empty: none. The same fault gives the same text
+    std::string fin;     ///< how the run ended: its status, or what a failure named
+    std::string trace;   ///< what went to standard error
+    std::string comptes; ///< lines of a name, a tab and a number
     std::vector<std::string> lignes;
-    std::array<std::uint64_t, 256> ecritures{}; ///< on the data register, by value
 };
 
 /// Plays the lines to their end and judges the run. The child process has a temporary folder of its own.
