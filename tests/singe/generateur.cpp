@@ -1,4 +1,4 @@
-#include "generateur.h"
+#include "singe.h"
 
 #include "base/nombre.h"
 #include "chart/astres_carte.h"
@@ -194,14 +194,13 @@ class personne {
         switch (c.espece()) {
         case genre::texte:
             return "saisit" + nom + " " + texte(c.a(shell::multiligne));
-        case genre::liste: {
-            static constexpr const char* mots[] = {"choisit", "double", "double", "droit"};
-            const int k = ligne(c);
-            return k < 0 && !une_fois_sur(10) ? std::string{} : avec(parmi(mots), k);
-        }
+        case genre::liste:
         case genre::deroulante: {
+            static constexpr const char* mots[] = {"choisit", "double", "double", "droit"};
+            const bool deroulante = c.espece() == genre::deroulante;
             const int k = ligne(c);
-            return k < 0 ? std::string{} : avec("choisit", k);
+            return k < 0 && (deroulante || !une_fois_sur(10)) ? std::string{}
+                                                              : avec(deroulante ? mots[0] : parmi(mots), k);
         }
         case genre::barre:
         case genre::curseur: {
@@ -248,17 +247,14 @@ class personne {
 
     // What happens around the program.
     std::string decor() {
-        switch (entre(0, 5)) {
-        case 0:
+        const int n = entre(0, 5);
+        if (n == 0)
             return touche_raquette();
-        case 1:
+        if (n == 1)
             return "raquette 11";
-        case 2:
-            return "horloge 200" + to_string(entre(0, 1)) + "-0" + to_string(entre(1, 9)) + "-28 2" +
-                   to_string(entre(0, 3)) + ":59:5" + to_string(entre(0, 9));
-        default:
-            return {};
-        }
+        return n > 2 ? std::string{}
+                     : "horloge 200" + to_string(entre(0, 1)) + "-0" + to_string(entre(1, 9)) + "-28 2" +
+                           to_string(entre(0, 3)) + ":59:5" + to_string(entre(0, 9));
     }
 
     std::string acte() {

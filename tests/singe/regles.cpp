@@ -1,4 +1,4 @@
-#include "regles.h"
+#include "singe.h"
 
 #include "base/nombre.h"
 #include "drive/etat_moteur.h"
@@ -9,13 +9,25 @@
 #include "tracking/frmaltazsuivi_champs.h"
 
 #include <algorithm>
+#include <bitset>
 #include <cmath>
 #include <sstream>
 #include <string_view>
 
-namespace singe {
+namespace singe::regles {
 
 namespace {
+
+std::string acte;                // verb and control of the line
+std::string auteur;              // what the line acts on, if that may write
+std::string prise_raquette;      // what gave the port to the paddle
+bool attend = false;             // the line lets time pass...
+bool ordonnee = false;           // ...in which an order or a timer that was on may write
+std::int64_t dernier_ordre = -1; // when the last such order is due
+bool quitter = false;            // an order to quit was given
+bool fichiers = false;           // data files were tampered with
+bool rafales = false;            // tracking was on: bursts and jogs may mix their direction values
+std::bitset<256> sens_tapes;     // low bytes of the direction values typed so far
 
 // Motions and mode commands by what starts them; the chart's slew is an entry of its popup,
 // and the trackings go on by their timers.
@@ -55,72 +67,72 @@ bool panneau_moteur_charge() {
 
 } // namespace
 
-void regles::ligne(const std::string& l, std::int64_t temps) {
-    attend_ = l.starts_with("avance ");
-    acte_ = attend_ ? "avance" : l.substr(0, l.find(' ', std::min(l.find(' '), l.size() - 1) + 1));
-    auteur_ = auteur_de(l);
+void ligne(const std::string& l, std::int64_t temps) {
+    attend = l.starts_with("avance ");
+    acte = attend ? "avance" : l.substr(0, l.find(' ', std::min(l.find(' '), l.size() - 1) + 1));
+    auteur = auteur_de(l);
     if (l.starts_with("a ")) {
         const auto ordre = l.substr(std::min(l.find(' ', 2), l.size() - 1) + 1);
         if (!auteur_de(ordre).empty())
-            dernier_ordre_ =
-                std::max<std::int64_t>(dernier_ordre_, temps + std::llround(base::nombre(l.substr(2)) * 1e6));
+            dernier_ordre =
+                std::max<std::int64_t>(dernier_ordre, temps + std::llround(base::nombre(l.substr(2)) * 1e6));
     }
     for (const std::string_view prise : {"backlash", "azencoding", "altencoding", "cmdraquette", "(2)"})
-        if (auteur_.ends_with(prise))
-            raquette_ = auteur_;
-    ordonnee_ = dernier_ordre_ >= temps || !minuteur_moteur().empty();
-    quitter_ = quitter_ || l.find("frminterface.Quitter") != std::string::npos;
-    fichiers_ = fichiers_ || l.starts_with("fichier ");
+        if (auteur.ends_with(prise))
+            prise_raquette = auteur;
+    ordonnee = dernier_ordre >= temps || !minuteur_moteur().empty();
+    quitter = quitter || l.find("frminterface.Quitter") != std::string::npos;
+    fichiers = fichiers || l.starts_with("fichier ");
 }
 
-std::string regles::mouvement() const {
-    if (!auteur_.empty())
-        return auteur_;
+std::string mouvement() {
+    if (!auteur.empty())
+        return auteur;
     const auto m = minuteur_moteur();
-    return m.empty() ? "avance" : m == "raquette" ? "raquette " + raquette_ : std::string{m};
+    return m.empty() ? "avance" : m == "raquette" ? "raquette " + prise_raquette : std::string{m};
 }
 
 // Direction value alone, or with one step line raised above it.
-bool regles::sens_permis(unsigned valeur) {
+static bool sens_permis(unsigned valeur) {
     using namespace cmd_moteur;
     for (const auto d : {azplus, azmoins, altplus, altmoins})
-        sens_tapes_.set(static_cast<unsigned>(d.valeur()) & 255U);
-    rafales_ = rafales_ || frmaltazsuivi::timcompteur.regarde_marche();
+        sens_tapes.set(static_cast<unsigned>(d.valeur()) & 255U);
+    rafales = rafales || frmaltazsuivi::timcompteur.regarde_marche();
     for (const unsigned propre : {0U, 1U, 2U, 3U, 4U, 8U, 12U})
         if (valeur == propre)
             return true;
-    if (rafales_ && (valeur == 6 || valeur == 9))
+    if (rafales && (valeur == 6 || valeur == 9))
         return true;
     for (const unsigned pas : {0U, 1U, 4U})
-        if (sens_tapes_.test((valeur - pas) & 255U))
+        if (sens_tapes.test((valeur - pas) & 255U))
             return true;
     return false;
 }
 
-std::string regles::ecriture(int adresse, std::uint8_t valeur) {
+std::string ecriture(int adresse, std::uint8_t valeur) {
     const auto quoi = std::to_string(adresse) + ":" + std::to_string(valeur);
     if (adresse == plateforme::registre_donnees) {
         if (!sens_permis(valeur))
             return "valeur hors des lignes, " + quoi;
     } else if (adresse == plateforme::registre_controle) {
-        if (valeur != 1 && valeur != 11 && !(valeur == 0 && quitter_))
+        if (valeur != 1 && valeur != 11 && !(valeur == 0 && quitter))
             return "valeur de commande, " + quoi;
     } else {
         return "registre inconnu, " + quoi;
     }
     const bool prise = adresse == plateforme::registre_controle && valeur == 1 && panneau_moteur_charge();
-    const bool permise = !auteur_.empty() || (attend_ && (ordonnee_ || !minuteur_moteur().empty()));
+    const bool permise = !auteur.empty() || (attend && (ordonnee || !minuteur_moteur().empty()));
     if (!permise && !prise)
-        return "écriture par un acte qui n'est pas un mouvement, " + quoi + ", " + acte_;
+        return "écriture par un acte qui n'est pas un mouvement, " + quoi + ", " + acte;
     return {};
 }
 
-bool regles::rafale_d_un_jour() const {
+bool rafale_d_un_jour() {
     using namespace cmd_moteur;
     constexpr double jour_ns = 86'400e9;
     const auto tempo = std::max(tempoaz, tempoalt).reel() * plateforme::ns_par_compte_entier;
     const auto suivi = tempopas.reel() * plateforme::ns_par_compte;
-    return (rafales_ && 2 * entier16::maximum * tempo > jour_ns) || 2 * nbpassuivi.reel() * suivi > jour_ns;
+    return (rafales && 2 * entier16::maximum * tempo > jour_ns) || 2 * nbpassuivi.reel() * suivi > jour_ns;
 }
 
 // How a program with its delivered files may end: singular points of the formulas, numbers too large, nothing
@@ -145,13 +157,13 @@ constexpr std::string_view echecs[] = {"division par zéro : angle d'un pas",
                                        "valeur de propriété non valide : frmraquette.HScroll",
                                        "fin de fichier dépassée : data/"};
 
-std::string regles::echec(const std::string& explication) const {
+std::string echec(const std::string& explication) {
     const bool permis = std::any_of(std::begin(echecs), std::end(echecs),
                                     [&](std::string_view e) { return explication.starts_with(e); });
     const bool annee = explication.find("sg0.txt (") != std::string::npos;
-    if (permis || annee || (fichiers_ && explication.find(" : ") != std::string::npos))
+    if (permis || annee || (fichiers && explication.find(" : ") != std::string::npos))
         return {};
     return "échec que rien ne permet, " + explication;
 }
 
-} // namespace singe
+} // namespace singe::regles

@@ -3,9 +3,9 @@
 // essais_singe GRAINE: prints the life of one start as it was played.
 // essais_singe FICHIER: plays a scenario under the same watch.
 
-#include "generateur.h"
+#include "singe.h"
+
 #include "platform/virtuelle/scenario.h"
-#include "surveillance.h"
 
 #include <algorithm>
 #include <csignal>

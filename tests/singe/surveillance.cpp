@@ -1,10 +1,9 @@
-#include "surveillance.h"
+#include "singe.h"
 
 #include "base/octets.h"
 #include "platform/plateforme.h"
 #include "platform/virtuelle/meneur.h"
 #include "platform/vue.h"
-#include "regles.h"
 #include "shell/programme.h"
 #include "sky/position.h"
 #include "tracking/frmaltazsuivi_champs.h"
@@ -40,7 +39,6 @@ struct bilan {
 };
 
 bilan* b = nullptr; // shared with the child
-regles* r = nullptr;
 const shell::entree* popup = nullptr;
 plateforme::boucle_virtuelle* virtuelle = nullptr;
 bool vivant = true;                 // the program, until its end of whatever kind
@@ -78,37 +76,33 @@ void verifie_position() {
         juge("position qui n'est pas un nombre");
 }
 
-class port_espion final : public plateforme::port {
-  public:
-    explicit port_espion(plateforme::port& p) : port_(p) {}
+struct port_espion final : plateforme::port {
+    plateforme::port& vrai = *plateforme::courante.port;
     void ecrit(int adresse, std::uint8_t valeur) override {
-        juge(r->ecriture(adresse, valeur));
+        juge(regles::ecriture(adresse, valeur));
         verifie_position();
-        port_.ecrit(adresse, valeur);
+        vrai.ecrit(adresse, valeur);
         if (adresse == plateforme::registre_donnees)
             ++par_valeur[valeur];
         if (++ecritures >= ecritures_maximum)
             throw plateforme::fin_du_scenario{};
     }
-    std::uint8_t lit(int adresse) override { return port_.lit(adresse); }
-
-  private:
-    plateforme::port& port_;
+    std::uint8_t lit(int adresse) override { return vrai.lit(adresse); }
 };
 
 // Counts what runs in the yields of motions, and sees the end of the program.
-class boucle_espion final : public plateforme::boucle {
-  public:
+struct boucle_espion final : plateforme::boucle {
+    int joues = 0; // nested yields' own included
     void attend(std::int64_t ns) override { virtuelle->attend(ns); }
     void cede() override {
         const int attendaient = virtuelle->ordres();
-        const int dessous = joues_;
+        const int dessous = joues;
         virtuelle->cede();
-        const int n = attendaient - virtuelle->ordres() - (joues_ - dessous);
+        const int n = attendaient - virtuelle->ordres() - (joues - dessous);
         if (n <= 0)
             return;
-        joues_ += n;
-        comptes["ordres dans les cessions de " + r->mouvement()] += n;
+        joues += n;
+        comptes["ordres dans les cessions de " + regles::mouvement()] += n;
     }
     void arme(shell::minuteur& m, int ms) override { virtuelle->arme(m, ms); }
     void desarme(shell::minuteur& m) override { virtuelle->desarme(m); }
@@ -117,32 +111,25 @@ class boucle_espion final : public plateforme::boucle {
         virtuelle->termine(statut);
         std::abort();
     }
-
-  private:
-    int joues_ = 0; // nested yields' own included
 };
 
 // Knows which popup is open; the rest is the scenario's own view.
-class vue_espion final : public plateforme::vue {
-  public:
-    explicit vue_espion(plateforme::vue& v) : vue_(v) {}
-    void panneau_change(const shell::panneau& p) override { vue_.panneau_change(p); }
-    void eleve(const shell::panneau& p) override { vue_.eleve(p); }
-    void repeint(const shell::panneau& p) override { vue_.repeint(p); }
+struct vue_espion final : plateforme::vue {
+    plateforme::vue& vraie = *plateforme::courante.vue;
+    void panneau_change(const shell::panneau& p) override { vraie.panneau_change(p); }
+    void eleve(const shell::panneau& p) override { vraie.eleve(p); }
+    void repeint(const shell::panneau& p) override { vraie.repeint(p); }
     void controle_change(const shell::controle& c, plateforme::aspect a) override {
-        vue_.controle_change(c, a);
+        vraie.controle_change(c, a);
     }
     shell::entree* ouvre_menu(shell::entree& racine, const shell::entree* defaut) override {
         popup = &racine;
-        auto* choisie = vue_.ouvre_menu(racine, defaut);
+        auto* choisie = vraie.ouvre_menu(racine, defaut);
         popup = nullptr;
         return choisie;
     }
-    void message(const std::string& texte) override { vue_.message(texte); }
-    plateforme::image charge_image(const fs::path& chemin) override { return vue_.charge_image(chemin); }
-
-  private:
-    plateforme::vue& vue_;
+    void message(const std::string& texte) override { vraie.message(texte); }
+    plateforme::image charge_image(const fs::path& chemin) override { return vraie.charge_image(chemin); }
 };
 
 void verifie_au_repos() {
@@ -159,13 +146,14 @@ class souffleur final : public std::streambuf {
 
   protected:
     int_type underflow() override {
-        if (!port_) {
-            port_ = std::make_unique<port_espion>(*plateforme::courante.port);
-            vue_ = std::make_unique<vue_espion>(*plateforme::courante.vue);
+        if (!virtuelle) {
+            static port_espion port;
+            static boucle_espion boucle;
+            static vue_espion vue;
             virtuelle = dynamic_cast<plateforme::boucle_virtuelle*>(plateforme::courante.boucle);
-            plateforme::courante.boucle = &boucle_;
-            plateforme::courante.port = port_.get();
-            plateforme::courante.vue = vue_.get();
+            plateforme::courante.port = &port;
+            plateforme::courante.boucle = &boucle;
+            plateforme::courante.vue = &vue;
         }
         vivant = vivant && !shell::est_gele();
         if (!vivant)
@@ -178,7 +166,7 @@ class souffleur final : public std::streambuf {
         ligne_ += '\n';
         std::memcpy(b->lignes + b->longueur, ligne_.data(), ligne_.size());
         b->longueur += ligne_.size();
-        r->ligne(ligne_.substr(0, ligne_.size() - 1), virtuelle->temps());
+        regles::ligne(ligne_.substr(0, ligne_.size() - 1), virtuelle->temps());
         if (!ligne_.starts_with("a ") && frmaltazsuivi::cmdstop.regarde_texte() == "reprise")
             ++comptes["actes pendant la pause du suivi"];
         setg(ligne_.data(), ligne_.data(), ligne_.data() + ligne_.size());
@@ -188,9 +176,6 @@ class souffleur final : public std::streambuf {
   private:
     const source& source_;
     std::string ligne_;
-    std::unique_ptr<port_espion> port_;
-    std::unique_ptr<vue_espion> vue_;
-    boucle_espion boucle_;
 };
 
 // Once a second of work: a run may be slow, but time or the port must move.
@@ -211,18 +196,11 @@ void chien_de_garde(int) {
     std::signal(SIGPROF, chien_de_garde);
     const itimerval seconde{{1, 0}, {1, 0}};
     setitimer(ITIMER_PROF, &seconde, nullptr);
-    regles les_regles;
-    r = &les_regles;
     souffleur tampon{lignes};
     std::istream entree{&tampon};
     std::ostringstream sortie;
     std::ostringstream explications;
-    const int statut = plateforme::joue({.lignes = entree,
-                                         .nom = "singe",
-                                         .dossier = donnees,
-                                         .donnees = donnees,
-                                         .sortie = sortie,
-                                         .explications = explications});
+    const int statut = plateforme::joue({entree, "singe", donnees, donnees, sortie, explications});
     auto dit = explications.str();
     dit = dit.substr(0, dit.find('\n'));
     if (dit.starts_with("singe:"))
@@ -232,11 +210,11 @@ void chien_de_garde(int) {
         dit.erase(dit.rfind(' ', tmp) + 1, tmp + 16 - dit.rfind(' ', tmp));
     note(b->fin, std::to_string(statut) + (dit.empty() ? "" : " : " + dit));
     if (statut == 3)
-        juge(les_regles.echec(dit));
+        juge(regles::echec(dit));
     // An order's popup may not have opened, or another one.
     else if (statut != 0 && !dit.starts_with("commande inconnue : \"menu\"") &&
              !dit.starts_with("le menu n'a pas") &&
-             !(dit.starts_with("un mouvement continue") && les_regles.rafale_d_un_jour()))
+             !(dit.starts_with("un mouvement continue") && regles::rafale_d_un_jour()))
         juge("statut " + std::to_string(statut) + " : " + dit);
     termine();
 }
