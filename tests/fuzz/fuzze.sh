@@ -3,7 +3,7 @@
 # (default 600), from the committed corpus and the delivered data. What was found stays in build/fuzz/corpus, what
 # breaks a reader in build/fuzz/trouve.
 # tests/fuzz/fuzze.sh minimise: takes from build/fuzz/corpus into the committed corpus what reaches code that
-# nothing there reaches yet.
+# neither that nor the delivered data and the tests' scenarios reach.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 secondes=${1:-600}
@@ -15,11 +15,6 @@ mkdir -p build/fuzz/trouve
 for cible in "${cibles[@]}"; do
     programme=build/fuzz/tests/fuzz/fuzz_$cible
     echo "== $cible"
-    if [ "$secondes" = minimise ]; then
-        "$programme" -merge=1 -use_counters=0 -max_len=2000 "tests/fuzz/corpus/$cible" "build/fuzz/corpus/$cible" 2>&1 |
-            grep MERGE-OUTER
-        continue
-    fi
     depart=build/fuzz/depart/$cible
     mkdir -p "$depart" "build/fuzz/corpus/$cible"
     longueur=4096
@@ -35,6 +30,15 @@ for cible in "${cibles[@]}"; do
     date) printf '2001-08-15 22:00:00.500' >"$depart/date" ;;
     scenario) cp tests/scenarios/*.scn "$depart" ;;
     esac
+    if [ "$secondes" = minimise ]; then
+        tri=build/fuzz/tri/$cible
+        rm -rf "$tri"
+        mkdir -p "$tri"
+        cp "$depart"/* "tests/fuzz/corpus/$cible"/* "$tri"
+        "$programme" -set_cover_merge=1 -use_counters=0 -max_len=2000 "$tri" "build/fuzz/corpus/$cible" 2>&1 | grep 'new files'
+        find "$tri" -regextype egrep -regex '.*/[0-9a-f]{40}' -exec cp -t "tests/fuzz/corpus/$cible" {} +
+        continue
+    fi
     "$programme" -max_total_time="$secondes" -max_len=$longueur -timeout=20 -rss_limit_mb=4096 \
         -print_final_stats=1 -verbosity=0 "-artifact_prefix=build/fuzz/trouve/$cible-" \
         "build/fuzz/corpus/$cible" "tests/fuzz/corpus/$cible" "$depart"
