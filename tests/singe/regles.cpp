@@ -138,28 +138,20 @@ bool rafale_d_un_jour() {
 // How a program with its delivered files may end: singular points of the formulas, numbers too large, nothing
 // selected where a line is needed, a text beyond its bar's range, a year without almanac, settings saved from
 // emptied fields.
-constexpr std::string_view echecs[] = {"division par zéro : angle d'un pas",
-                                       "division par zéro : config_equa.ini",
-                                       "division par zéro : passeconde",
-                                       "division par zéro : nombre d'impulsions",
-                                       "division par zéro : azimut",
-                                       "division par zéro : angle horaire",
-                                       "division par zéro : arc",
-                                       "racine d'un nombre négatif : arc",
-                                       "dépassement de capacité : ",
-                                       "indice hors limites : lbObjets(-1)",
-                                       "indice hors limites : mapfiltre(-1)",
-                                       "indice hors limites : etoiles(-1)",
-                                       "indice hors limites : objets de la carte(-1)",
-                                       "indice hors limites : étoiles de la carte(-1)",
-                                       "valeur de propriété non valide : frmaltazpilot.HScroll",
-                                       "valeur de propriété non valide : frmequapilot.HScroll",
-                                       "valeur de propriété non valide : frmraquette.HScroll",
-                                       "fin de fichier dépassée : data/"};
+constexpr std::string_view echecs =
+    "division par zéro : angle d'un pas|division par zéro : config_equa.ini|division par zéro : passeconde|"
+    "division par zéro : nombre d'impulsions|division par zéro : azimut|division par zéro : angle horaire|"
+    "division par zéro : arc|racine d'un nombre négatif : arc|dépassement de capacité : |"
+    "indice hors limites : lbObjets(-1)|indice hors limites : mapfiltre(-1)|"
+    "indice hors limites : etoiles(-1)|indice hors limites : objets de la carte(-1)|"
+    "indice hors limites : étoiles de la carte(-1)|valeur de propriété non valide : frmaltazpilot.HScroll|"
+    "valeur de propriété non valide : frmequapilot.HScroll|"
+    "valeur de propriété non valide : frmraquette.HScroll|fin de fichier dépassée : data/|";
 
 std::string echec(const std::string& explication) {
-    const bool permis = std::any_of(std::begin(echecs), std::end(echecs),
-                                    [&](std::string_view e) { return explication.starts_with(e); });
+    bool permis = false;
+    for (std::size_t debut = 0, fin = 0; (fin = echecs.find('|', debut)) != echecs.npos; debut = fin + 1)
+        permis = permis || explication.starts_with(echecs.substr(debut, fin - debut));
     const bool annee = explication.find("sg0.txt (") != std::string::npos;
     if (permis || annee || (fichiers && explication.find(" : ") != std::string::npos))
         return {};
