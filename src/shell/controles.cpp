@@ -254,6 +254,10 @@ void champ_liste::double_clic(int k) {
 }
 
 void champ_liste::droit(int k) {
+    if (!joignable())
+        return;
+    if (e().position != k)
+        choisit(k); // else what hangs on the line would stay with the old one
     if (selectionne(k))
         repond(r().droit);
 }
