@@ -186,7 +186,7 @@ void champ_image::image(const plateforme::image& i) { change(&etat::image, i, as
 
 bool entree::coche() { return acces().coche; }
 void entree::coche(bool oui) { change(&etat::coche, oui, aspect::coche); }
-bool entree::a_une_commande() const { return static_cast<bool>(r().clic); }
+bool cliquable::a_une_commande() const { return r().clic || r().appui || r().relachement; }
 
 void entree::ouvre(const entree* defaut) {
     acces();
@@ -253,6 +253,10 @@ void champ_liste::double_clic(int k) {
 }
 
 void champ_liste::droit(int k) {
+    if (!joignable())
+        return;
+    if (e().position != k)
+        choisit(k); // else what hangs on the line would stay with the old one
     if (selectionne(k))
         repond(r().droit);
 }

@@ -131,6 +131,7 @@ class cliquable : public legendable {
     void clic();    ///< a user's whole click
     void appuie();  ///< mouse button down: stop buttons act here
     void relache(); ///< mouse button up: the others act here
+    bool a_une_commande() const;
 
   protected:
     using legendable::legendable;
@@ -298,7 +299,6 @@ class entree : public cliquable {
         : cliquable(genre::entree, p, nom, {}, d, indice) {}
     bool coche();
     void coche(bool oui);
-    bool a_une_commande() const;
     /// Opens it as a popup and returns when that has closed; the command chosen has run by then.
     void ouvre(const entree* defaut = nullptr);
 };

@@ -58,7 +58,11 @@ struct machine {
     std::ostringstream sortie;
     plateforme::vue_scenario vue{sortie, [] { return std::string{"-"}; }};
 
-    machine() { fs::copy(VELMORIA_DONNEES, prive.chemin() / "data", fs::copy_options::recursive); }
+    machine() {
+        fs::copy(VELMORIA_DONNEES, prive.chemin() / "data", fs::copy_options::recursive);
+        boucle.regle_horloge(
+            {.annee = 2001, .mois = 1, .jour = 15, .heure = 12}); // a year that is in the lists
+    }
     fs::path donnees() const { return prive.chemin() / "data"; }
 };
 
@@ -141,7 +145,13 @@ void notes(std::string_view octets) {
 }
 
 void almanach(std::string_view octets) {
-    avec_panneaux("date/2001/janvier/sg0.txt", octets, [] {
+    static const bool pret = [] {
+        avec_panneaux("date/2001/janvier/sg0.txt", "", [] { frmcoord::fiche.charge(); });
+        return frmcoord::fiche.est_charge(); // and stays so: nothing of it is left over but the month
+    }();
+    avec_fichier("date/2001/janvier/sg0.txt", octets, [] {
+        if (!pret)
+            std::abort();
         frmcoord::cbannee.position(1);
         frmcoord::cbmois.position(0);
         for (const int jour : {0, 15, 30}) {

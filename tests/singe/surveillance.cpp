@@ -1,16 +1,17 @@
-#include "surveillance.h"
+#include "singe.h"
 
-#include "bench/monture.h"
+#include "base/octets.h"
 #include "platform/plateforme.h"
 #include "platform/virtuelle/meneur.h"
 #include "platform/vue.h"
-#include "regles.h"
 #include "shell/programme.h"
 #include "sky/position.h"
+#include "tracking/frmaltazsuivi_champs.h"
 
 #include <cmath>
 #include <csignal>
 #include <cstring>
+#include <map>
 #include <sstream>
 #include <streambuf>
 #include <sys/mman.h>
@@ -24,23 +25,26 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::uint64_t ecritures_maximum = 200'000; // a longer run proves no more
-constexpr int secondes_maximum = 12;                 // and neither does a slower one
+constexpr int ecritures_maximum = 1'000'000; // a longer run proves no more
+constexpr int secondes_maximum = 12;         // and neither does a slower one
 
 // What the child leaves behind, also when it dies.
 struct bilan {
-    char lignes[1 << 20];
+    char lignes[1 << 22];
     std::size_t longueur;
     char faute[4096];
     char fin[4096];
-    std::uint64_t ecritures;
-    std::array<std::uint64_t, 256> par_valeur;
+    char comptes[16384];
     bool fini;
 };
 
 bilan* b = nullptr; // shared with the child
-regles* r = nullptr;
 const shell::entree* popup = nullptr;
+plateforme::boucle_virtuelle* virtuelle = nullptr;
+bool vivant = true;                 // the program, until its end of whatever kind
+std::map<std::string, int> comptes; // what ran in which motion's yields
+int ecritures = 0;
+int par_valeur[256];                 // on the data register
 volatile std::int64_t temps_vu = -1; // virtual time at the last look of the watchdog
 int coups = 0;
 
@@ -49,6 +53,13 @@ template <std::size_t N> void note(char (&ou)[N], const std::string& s) {
 }
 
 [[noreturn]] void termine() {
+    for (int v = 0; v < 256; ++v)
+        if (par_valeur[v] > 0)
+            comptes["écritures 888:" + std::to_string(v)] = par_valeur[v];
+    std::string texte;
+    for (const auto& [quoi, n] : comptes)
+        texte += quoi + '\t' + std::to_string(n) + '\n';
+    note(b->comptes, texte);
     b->fini = true;
     std::_Exit(0);
 }
@@ -60,49 +71,69 @@ void juge(const std::string& faute) {
     termine();
 }
 
-class port_espion final : public plateforme::port {
-  public:
-    explicit port_espion(plateforme::port& p) : port_(p) {}
+void verifie_position() {
+    if (!std::isfinite(general::posaz) || !std::isfinite(general::posalt))
+        juge("position qui n'est pas un nombre");
+}
+
+struct port_espion final : plateforme::port {
+    plateforme::port& vrai = *plateforme::courante.port;
     void ecrit(int adresse, std::uint8_t valeur) override {
-        juge(r->ecriture(adresse, valeur));
-        port_.ecrit(adresse, valeur);
+        juge(regles::ecriture(adresse, valeur));
+        verifie_position();
+        vrai.ecrit(adresse, valeur);
         if (adresse == plateforme::registre_donnees)
-            ++b->par_valeur[valeur];
-        if (++b->ecritures >= ecritures_maximum)
+            ++par_valeur[valeur];
+        if (++ecritures >= ecritures_maximum)
             throw plateforme::fin_du_scenario{};
     }
-    std::uint8_t lit(int adresse) override { return port_.lit(adresse); }
+    std::uint8_t lit(int adresse) override { return vrai.lit(adresse); }
+};
 
-  private:
-    plateforme::port& port_;
+// Counts what runs in the yields of motions, and sees the end of the program.
+struct boucle_espion final : plateforme::boucle {
+    int joues = 0; // nested yields' own included
+    void attend(std::int64_t ns) override { virtuelle->attend(ns); }
+    void cede() override {
+        const int attendaient = virtuelle->ordres();
+        const int dessous = joues;
+        virtuelle->cede();
+        const int n = attendaient - virtuelle->ordres() - (joues - dessous);
+        if (n <= 0)
+            return;
+        joues += n;
+        comptes["ordres dans les cessions de " + regles::mouvement()] += n;
+    }
+    void arme(shell::minuteur& m, int ms) override { virtuelle->arme(m, ms); }
+    void desarme(shell::minuteur& m) override { virtuelle->desarme(m); }
+    [[noreturn]] void termine(int statut) override {
+        vivant = false;
+        virtuelle->termine(statut);
+        std::abort();
+    }
 };
 
 // Knows which popup is open; the rest is the scenario's own view.
-class vue_espion final : public plateforme::vue {
-  public:
-    explicit vue_espion(plateforme::vue& v) : vue_(v) {}
-    void panneau_change(const shell::panneau& p) override { vue_.panneau_change(p); }
-    void eleve(const shell::panneau& p) override { vue_.eleve(p); }
-    void repeint(const shell::panneau& p) override { vue_.repeint(p); }
+struct vue_espion final : plateforme::vue {
+    plateforme::vue& vraie = *plateforme::courante.vue;
+    void panneau_change(const shell::panneau& p) override { vraie.panneau_change(p); }
+    void eleve(const shell::panneau& p) override { vraie.eleve(p); }
+    void repeint(const shell::panneau& p) override { vraie.repeint(p); }
     void controle_change(const shell::controle& c, plateforme::aspect a) override {
-        vue_.controle_change(c, a);
+        vraie.controle_change(c, a);
     }
     shell::entree* ouvre_menu(shell::entree& racine, const shell::entree* defaut) override {
         popup = &racine;
-        auto* choisie = vue_.ouvre_menu(racine, defaut);
+        auto* choisie = vraie.ouvre_menu(racine, defaut);
         popup = nullptr;
         return choisie;
     }
-    void message(const std::string& texte) override { vue_.message(texte); }
-    plateforme::image charge_image(const fs::path& chemin) override { return vue_.charge_image(chemin); }
-
-  private:
-    plateforme::vue& vue_;
+    void message(const std::string& texte) override { vraie.message(texte); }
+    plateforme::image charge_image(const fs::path& chemin) override { return vraie.charge_image(chemin); }
 };
 
 void verifie_au_repos() {
-    if (!std::isfinite(general::posaz) || !std::isfinite(general::posalt))
-        juge("position qui n'est pas un nombre");
+    verifie_position();
     for (const auto* p : programme::registre().panneaux)
         if (p->est_visible() && !p->est_charge())
             juge("panneau montré sans être chargé, " + std::string{p->nom()});
@@ -115,12 +146,18 @@ class souffleur final : public std::streambuf {
 
   protected:
     int_type underflow() override {
-        if (!port_) {
-            port_ = std::make_unique<port_espion>(*plateforme::courante.port);
-            vue_ = std::make_unique<vue_espion>(*plateforme::courante.vue);
-            plateforme::courante.port = port_.get();
-            plateforme::courante.vue = vue_.get();
+        if (!virtuelle) {
+            static port_espion port;
+            static boucle_espion boucle;
+            static vue_espion vue;
+            virtuelle = dynamic_cast<plateforme::boucle_virtuelle*>(plateforme::courante.boucle);
+            plateforme::courante.port = &port;
+            plateforme::courante.boucle = &boucle;
+            plateforme::courante.vue = &vue;
         }
+        vivant = vivant && !shell::est_gele();
+        if (!vivant)
+            return traits_type::eof();
         verifie_au_repos();
         const auto* ouvert = std::exchange(popup, nullptr); // one answer a popup
         ligne_ = source_(ouvert);
@@ -129,7 +166,9 @@ class souffleur final : public std::streambuf {
         ligne_ += '\n';
         std::memcpy(b->lignes + b->longueur, ligne_.data(), ligne_.size());
         b->longueur += ligne_.size();
-        r->ligne(ligne_.substr(0, ligne_.size() - 1));
+        regles::ligne(ligne_.substr(0, ligne_.size() - 1), virtuelle->temps());
+        if (!ligne_.starts_with("a ") && frmaltazsuivi::cmdstop.regarde_texte() == "reprise")
+            ++comptes["actes pendant la pause du suivi"];
         setg(ligne_.data(), ligne_.data(), ligne_.data() + ligne_.size());
         return traits_type::to_int_type(ligne_.front());
     }
@@ -137,14 +176,11 @@ class souffleur final : public std::streambuf {
   private:
     const source& source_;
     std::string ligne_;
-    std::unique_ptr<port_espion> port_;
-    std::unique_ptr<vue_espion> vue_;
 };
 
-// Once a second: a run may be slow, but time or the port must move.
+// Once a second of work: a run may be slow, but time or the port must move.
 void chien_de_garde(int) {
-    const auto* boucle = dynamic_cast<plateforme::boucle_virtuelle*>(plateforme::courante.boucle);
-    const std::int64_t temps = boucle ? boucle->temps() : 0;
+    const std::int64_t temps = virtuelle ? virtuelle->temps() : 0;
     const bool bouge = temps != temps_vu;
     temps_vu = temps;
     if (++coups < secondes_maximum)
@@ -157,21 +193,14 @@ void chien_de_garde(int) {
 }
 
 [[noreturn]] void joue_dans_l_enfant(const source& lignes, const fs::path& donnees) {
-    std::signal(SIGALRM, chien_de_garde);
+    std::signal(SIGPROF, chien_de_garde);
     const itimerval seconde{{1, 0}, {1, 0}};
-    setitimer(ITIMER_REAL, &seconde, nullptr);
-    regles les_regles;
-    r = &les_regles;
+    setitimer(ITIMER_PROF, &seconde, nullptr);
     souffleur tampon{lignes};
     std::istream entree{&tampon};
     std::ostringstream sortie;
     std::ostringstream explications;
-    const int statut = plateforme::joue({.lignes = entree,
-                                         .nom = "singe",
-                                         .dossier = donnees,
-                                         .donnees = donnees,
-                                         .sortie = sortie,
-                                         .explications = explications});
+    const int statut = plateforme::joue({entree, "singe", donnees, donnees, sortie, explications});
     auto dit = explications.str();
     dit = dit.substr(0, dit.find('\n'));
     if (dit.starts_with("singe:"))
@@ -181,25 +210,21 @@ void chien_de_garde(int) {
         dit.erase(dit.rfind(' ', tmp) + 1, tmp + 16 - dit.rfind(' ', tmp));
     note(b->fin, std::to_string(statut) + (dit.empty() ? "" : " : " + dit));
     if (statut == 3)
-        juge(les_regles.echec(dit));
-    else if (statut != 0 && !(dit.starts_with("un mouvement continue") && les_regles.rafale_d_un_jour()))
+        juge(regles::echec(dit));
+    // An order's popup may not have opened, or another one.
+    else if (statut != 0 && !dit.starts_with("commande inconnue : \"menu\"") &&
+             !dit.starts_with("le menu n'a pas") &&
+             !(dit.starts_with("un mouvement continue") && regles::rafale_d_un_jour()))
         juge("statut " + std::to_string(statut) + " : " + dit);
     termine();
 }
 
-std::string sans_bilan(int etat) {
-    if (WIFSIGNALED(etat))
-        return "arrêt brutal, signal " + std::to_string(WTERMSIG(etat));
-    return "arrêt brutal, statut " + std::to_string(WEXITSTATUS(etat));
-}
-
-std::string contenu(int fd) {
-    std::string s;
-    char bloc[4096];
-    lseek(fd, 0, SEEK_SET);
-    for (ssize_t n = read(fd, bloc, sizeof bloc); n > 0; n = read(fd, bloc, sizeof bloc))
-        s.append(bloc, static_cast<std::size_t>(n));
-    return s;
+// How it died, and the sanitizer's last word if it has one: two crashes are not one.
+std::string sans_bilan(int etat, const std::string& trace) {
+    const auto mot = trace.find("SUMMARY: ");
+    return (WIFSIGNALED(etat) ? "arrêt brutal, signal " + std::to_string(WTERMSIG(etat))
+                              : "arrêt brutal, statut " + std::to_string(WEXITSTATUS(etat))) +
+           (mot == std::string::npos ? "" : ", " + trace.substr(mot, trace.find('\n', mot) - mot));
 }
 
 } // namespace
@@ -209,28 +234,25 @@ verdict joue_sous_surveillance(const source& lignes, const fs::path& donnees) {
         mmap(nullptr, sizeof(bilan), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
     b = partage;
     b->longueur = 0;
-    b->ecritures = 0;
-    b->par_valeur.fill(0);
-    b->faute[0] = b->fin[0] = 0;
+    b->faute[0] = b->fin[0] = b->comptes[0] = 0;
     b->fini = false;
     std::string dossier = (fs::temp_directory_path() / "singe-XXXXXX").string();
     if (b == MAP_FAILED || !mkdtemp(dossier.data()))
         std::abort();
-    const int erreurs = memfd_create("erreurs", 0);
+    const auto erreurs = dossier + "/erreurs";
     const pid_t enfant = fork();
     if (enfant == 0) {
-        setenv("TMPDIR", dossier.c_str(), 1);
-        dup2(erreurs, STDERR_FILENO);
+        if (setenv("TMPDIR", dossier.c_str(), 1) != 0 || !std::freopen(erreurs.c_str(), "w", stderr))
+            std::abort();
         joue_dans_l_enfant(lignes, donnees);
     }
     int etat = 0;
     if (enfant < 0 || waitpid(enfant, &etat, 0) != enfant)
         std::abort();
+    verdict v{b->faute, b->fin, base::lit_fichier(erreurs), b->comptes, {}};
     fs::remove_all(dossier);
-    verdict v{b->faute, b->fin, contenu(erreurs), {}, b->par_valeur};
-    close(erreurs);
     if (!b->fini)
-        v.faute = sans_bilan(etat);
+        v.faute = sans_bilan(etat, v.trace);
     std::istringstream texte{std::string{b->lignes, b->longueur}};
     for (std::string l; std::getline(texte, l);)
         v.lignes.push_back(l);

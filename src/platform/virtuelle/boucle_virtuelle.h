@@ -40,6 +40,7 @@ class boucle_virtuelle final : public boucle, public horloge {
     /// Runs `f` once, this much later: before the timers due at the same instant, after what was ordered
     /// before it.
     void programme(std::int64_t ns, std::string texte, std::function<void()> f);
+    int ordres() const { return ordres_; } ///< how many still wait
     /// When the order that runs now was due; -1 outside one.
     std::int64_t echeance() const { return echeance_; }
     /// Takes back the first order due at this instant whose text begins with `debut`; its text, or none.
