@@ -89,7 +89,7 @@ TEST_F(genres, a_list_by_mouse_and_keys) {
     EXPECT_EQ(lus(), "clic ");
     EXPECT_EQ(lbliste.position(), 1);
     QTest::mouseClick(w->viewport(), Qt::RightButton, {}, rang(0));
-    EXPECT_EQ(lus(), "droit ");
+    EXPECT_EQ(lus(), "clic droit ");
     EXPECT_EQ(lbliste.position(), 0);
     QTest::mouseClick(w->viewport(), Qt::RightButton, {}, {10, w->viewport()->height() - 5});
     EXPECT_EQ(lbliste.position(), -1);
