@@ -15,6 +15,9 @@ namespace base {
 /// Rounds to a whole number, ties to the even one: 2.5 gives 2, 3.5 gives 4. Not finite stays so.
 inline double arrondi(double x) { return std::nearbyint(x); }
 
+/// Ends the run (`depassement`): x has no place in so many bits.
+[[noreturn]] void deborde(double x, const lieu& ou, int bits);
+
 /// A signed integer of type T. Conversions and arithmetic whose result does not fit are fatal
 /// (`depassement`); a zero divisor is fatal too. Mixing widths gives the wider one; narrowing must be spelled
 /// out.
@@ -29,8 +32,9 @@ template <std::signed_integral T> class entier {
     template <std::integral U>
     requires(!std::same_as<U, bool>) constexpr entier(U v) : v_(retient(v)) {}
 
-    /// From a real number, rounded with ties to the even number.
-    explicit entier(double x) : v_(retient_reel(x)) {}
+    /// From a real number, rounded with ties to the even number. `ou` says where it was read, for
+    /// the message.
+    explicit entier(double x, const lieu& ou = {}) : v_(retient_reel(x, ou)) {}
 
     template <std::signed_integral U>
     constexpr explicit(sizeof(U) > sizeof(T)) entier(entier<U> autre) : v_(retient(autre.valeur())) {}
@@ -61,19 +65,19 @@ template <std::signed_integral T> class entier {
   private:
     template <std::integral U> static constexpr T retient(U v) {
         if (!std::in_range<T>(v))
-            fatale(cause::depassement, largeur());
+            deborde(static_cast<double>(v), {}, bits);
         return static_cast<T>(v);
     }
-    static T retient_reel(double x) {
+    static T retient_reel(double x, const lieu& ou) {
         const double r = arrondi(x);
         if (!(r >= static_cast<double>(minimum) && r <= static_cast<double>(maximum)))
-            fatale(cause::depassement, largeur());
+            deborde(x, ou, bits);
         return static_cast<T>(r);
     }
-    static std::string largeur() { return sizeof(T) == 2 ? "entier de 16 bits" : "entier de 32 bits"; }
+    static constexpr int bits = 8 * sizeof(T);
     constexpr void refuse_zero() const {
         if (v_ == 0)
-            fatale(cause::division_par_zero, largeur());
+            fatale(cause::division_par_zero, "division d'entiers");
     }
 
     T v_ = 0;

@@ -11,6 +11,17 @@ gestionnaire_fatal gestionnaire = nullptr;
 
 } // namespace
 
+std::string lieu::devant() const {
+    if (nom.empty())
+        return {};
+    std::string s{nom};
+    if (!champ.empty())
+        s += "." + std::string{champ};
+    if (indice >= 0)
+        s += "(" + std::to_string(indice) + ")";
+    return s + " : ";
+}
+
 std::string_view libelle(cause c) {
     switch (c) {
     case cause::division_par_zero:

@@ -18,6 +18,16 @@ enum class cause {
     image_illisible,
 };
 
+/// Where a value was read, for a failure's message: a file, a variable, or a field of a panel.
+struct lieu {
+    std::string_view nom; ///< of the file, the variable or the panel; empty if it is not known
+    std::string_view champ = {};
+    int indice = -1; ///< the field's place in its array
+
+    /// "config_altaz.ini : ", "frmaltazpilot.tAZ(0) : ", or nothing.
+    std::string devant() const;
+};
+
 /// The French name of a cause, as the observer reads it.
 std::string_view libelle(cause c);
 

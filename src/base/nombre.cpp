@@ -60,7 +60,7 @@ std::int64_t ordre_de_grandeur(std::string_view n) {
 
 } // namespace
 
-double nombre(std::string_view texte) {
+double nombre(std::string_view texte, const lieu& ou) {
     std::string serre;
     serre.reserve(texte.size());
     for (char c : texte)
@@ -79,7 +79,7 @@ double nombre(std::string_view texte) {
     const auto lu = std::from_chars(reste.data(), reste.data() + n, v);
     if (lu.ec == std::errc::result_out_of_range) {
         if (ordre_de_grandeur(reste.substr(0, n)) > 0)
-            fatale(cause::depassement, std::string{texte.substr(0, 40)});
+            fatale(cause::depassement, ou.devant() + std::string{texte.substr(0, 40)});
         return 0.0;
     }
     return negatif && v != 0.0 ? -v : v;

@@ -10,8 +10,8 @@ namespace base {
 
 /// The number a text begins with, 0 if it begins with none. Blanks are skipped wherever they stand, the
 /// decimal sign is the point, an exponent is taken, the rest is ignored: "12abc" is 12, "abc" is 0. Fatal
-/// (`depassement`) beyond the range of a double.
-double nombre(std::string_view texte);
+/// (`depassement`) beyond the range of a double; `ou` says where the text stands, for the message.
+double nombre(std::string_view texte, const lieu& ou = {});
 
 /// Whether a text is a number from its first character to its last, blanks around it apart.
 bool est_nombre(std::string_view texte);

@@ -145,6 +145,9 @@ void pasequa() {
 
 void rafaleaz() { rafale(general::ecartaz, azplus, azmoins, nbpasaz, tempoaz, azimut.pas); }
 
-void rafalealt() { rafale(general::ecartalt, altplus, altmoins, entier16{nbpasalt}, tempoalt, altitude.pas); }
+void rafalealt() {
+    rafale(general::ecartalt, altplus, altmoins, entier16{nbpasalt, {"pas en altitude"}}, tempoalt,
+           altitude.pas);
+}
 
 } // namespace cmd_moteur

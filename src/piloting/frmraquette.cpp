@@ -56,14 +56,14 @@ void charge() {
     for (std::size_t i = 0; i < vitesses.size(); ++i)
         vitesses[i].champ.ecrit(vitessemanu[i]);
     for (const auto& v : vitesses)
-        v.barre.valeur(entier32{(v.etendue.sommet - v.champ.nombre()) / v.etendue.facteur});
+        v.barre.valeur(entier32{(v.etendue.sommet - v.champ.nombre()) / v.etendue.facteur, v.champ.lieu()});
     txtbacklash_alt.ecrit(backlashalt);
     txtbacklash_az.ecrit(backlashaz);
 }
 
 void change_vitesse(const vitesse& v) {
     v.champ.ecrit(v.etendue.sommet - v.etendue.facteur * v.barre.valeur());
-    v.slot = entier32{v.champ.nombre()};
+    v.slot = v.champ.nombre32();
 }
 
 void bascule_section() {

@@ -23,7 +23,7 @@ void charge(const pilote& p) {
     for (std::size_t i = 0; i < p.table.size(); ++i)
         p.reglage.champ(i).ecrit(p.table[i].reel() / comptes_par_unite);
     for (std::size_t i = 0; i < p.table.size(); ++i)
-        p.reglage.barre(i).place(entier32{p.reglage.champ(i).nombre()});
+        p.reglage.barre(i).place(p.reglage.champ(i).nombre32());
     plateforme::Out32(plateforme::registre_controle, 1);
 }
 
@@ -69,7 +69,7 @@ void enregistre(const pilote& p) {
     for (std::size_t i = 0; i < p.table.size(); ++i) {
         const double v = p.reglage.champ(i).nombre() * comptes_par_unite;
         if (v != 0) {
-            p.table[i] = entier32{v};
+            p.table[i] = entier32{v, p.reglage.champ(i).lieu()};
             f.nombre(v);
         } else {
             f.nombre(p.table[i]);

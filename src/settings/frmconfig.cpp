@@ -71,10 +71,10 @@ void initialise() {
     frmcoord::txtcoordalt3.ecrit("0");
     general::posaz = base::fini(frmcoord::txtcoordaz1.nombre() * 3600, "posaz");
     general::posalt = base::fini(frmcoord::txtcoordalt1.nombre() * 3600, "posalt");
-    cmd_moteur::azplus = entier16{txtazplus.nombre()};
-    cmd_moteur::azmoins = entier16{txtazmoins.nombre()};
-    cmd_moteur::altplus = entier16{txtaltplus.nombre()};
-    cmd_moteur::altmoins = entier16{txtaltmoins.nombre()};
+    cmd_moteur::azplus = txtazplus.nombre16();
+    cmd_moteur::azmoins = txtazmoins.nombre16();
+    cmd_moteur::altplus = txtaltplus.nombre16();
+    cmd_moteur::altmoins = txtaltmoins.nombre16();
 }
 
 void realigne() {

@@ -80,7 +80,7 @@ std::string lecteur::champ() {
     return base::est_nombre(t) ? base::texte(base::nombre(t)) : t;
 }
 
-double lecteur::nombre() { return base::nombre(suivante()); }
+double lecteur::nombre() { return base::nombre(suivante(), {nom_}); }
 
 bool lecteur::vrai() { return suivante() == "Vrai"; }
 

@@ -35,9 +35,10 @@ class lecteur {
     std::string champ();
     /// The next value by the lenient conversion; an empty one is 0.
     double nombre();
-    /// The same, rounded with ties to the even number; what does not fit is fatal (`depassement`).
-    base::entier16 nombre16() { return base::entier16{nombre()}; }
-    base::entier32 nombre32() { return base::entier32{nombre()}; }
+    /// The same, rounded with ties to the even number; what does not fit is fatal (`depassement`), with the
+    /// file's name.
+    base::entier16 nombre16() { return base::entier16{nombre(), {nom_}}; }
+    base::entier32 nombre32() { return base::entier32{nombre(), {nom_}}; }
     /// True only if the next value is exactly "Vrai".
     bool vrai();
     /// The next line whole as UTF-8 text: commas and blanks belong to it, its line end doesn't.

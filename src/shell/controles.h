@@ -35,8 +35,9 @@ class controle {
     // Looking, without loading.
     genre espece() const { return genre_; }
     std::string_view nom_court() const { return nom_; }
-    int indice() const { return indice_; } ///< place in its array, -1 outside one
-    std::string nom() const;               ///< "tAZ(0)", as scenarios and widgets know it
+    int indice() const { return indice_; }                             ///< place in its array, -1 outside one
+    base::lieu lieu() const { return {fiche_->nom(), nom_, indice_}; } ///< for a failure's message
+    std::string nom() const; ///< "tAZ(0)", as scenarios and widgets know it
     panneau& fiche() const { return *fiche_; }
     controle* cadre() const { return dessin_.cadre; }
     const dessin& comme_dessine() const { return dessin_; }
@@ -104,7 +105,11 @@ class champ_texte : public controle {
     constexpr champ_texte(panneau& p, const char* nom, boite place, dessin d = {}, int indice = -1)
         : controle(genre::texte, p, nom, place, d, indice) {}
     std::string lit();
-    double nombre() { return base::nombre(lit()); }
+    double nombre() { return base::nombre(lit(), lieu()); }
+    /// Rounded with ties to the even number; what does not fit is fatal (`depassement`), with the field's
+    /// name.
+    base::entier16 nombre16() { return base::entier16{nombre(), lieu()}; }
+    base::entier32 nombre32() { return base::entier32{nombre(), lieu()}; }
     void ecrit(const std::string& texte);
     void ecrit(double x) { ecrit(base::texte(x)); }
     void ecrit(base::entier16 n) { ecrit(base::texte(n)); }

@@ -31,12 +31,12 @@ double anglehoraire(double t, double a) { return (t - a) * 15 / 3600 * pi / 180;
 
 double angleaz() {
     const double pas = frmconfig::txtpasaz.nombre();
-    return angle_par_pas(pas, base::entier32{frmconfig::txtRaz.nombre()});
+    return angle_par_pas(pas, frmconfig::txtRaz.nombre32());
 }
 
 double anglealt() {
     const double pas = frmconfig::txtpasalt.nombre();
-    return angle_par_pas(pas, base::entier32{frmconfig::txtRalt.nombre()});
+    return angle_par_pas(pas, frmconfig::txtRalt.nombre32());
 }
 
 void ecritdms(double arcsec, shell::champ_texte& deg, shell::champ_texte& min, shell::champ_texte& sec) {

@@ -28,10 +28,10 @@ double lit_tsl() {
     const double h = frmcoord::txth.nombre();
     const double m = frmcoord::txtmin.nombre();
     const double s = frmcoord::txts.nombre();
-    const double t = tempsecoule(h, m, s, entier16{frmcoord::txtms.nombre()});
+    const double t = tempsecoule(h, m, s, frmcoord::txtms.nombre16());
     const double deg = frmconfig::txtdegre.nombre();
     const entier16 min{frmconfig::txtmin.nombre()};
-    const double l = t + tslbase(deg, min, entier32{frmcoord::txtessai.nombre()});
+    const double l = t + tslbase(deg, min, frmcoord::txtessai.nombre32());
     return l < secondes_par_jour ? l : l - secondes_par_jour;
 }
 

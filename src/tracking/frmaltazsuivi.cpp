@@ -76,7 +76,7 @@ void commence() {
     general::calcul_altaz();
     tracking::part_d_ici();
     tracking::affiche();
-    timcompteur.intervalle(entier32{txtincrement.nombre()});
+    timcompteur.intervalle(txtincrement.nombre32());
     timcompteur.marche(true);
 }
 

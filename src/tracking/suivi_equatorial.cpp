@@ -57,7 +57,7 @@ void tic() {
     if (prive.secondecour.reel() == prive.secondeprec)
         return;
     txtessai.ecrit(txtessai.nombre() + 1);
-    nbpassuivi = entier16{prive.passeconde};
+    nbpassuivi = entier16{prive.passeconde, {"pas par seconde"}};
     prive.restesuivi = prive.passeconde - nbpassuivi.reel();
     prive.sommesuivi += prive.restesuivi;
     nbpassuivi += entier16{tracking::paie(prive.sommesuivi)};

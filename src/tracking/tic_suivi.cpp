@@ -30,11 +30,10 @@ double pas_exacts(double ecart, double angle_par_pas, const char* quoi) {
 }
 
 void lit_reglages() {
-    const double ms = frmaltazsuivi::txtincrement.nombre();
-    incrementms = entier16{ms};
-    frmaltazsuivi::timcompteur.intervalle(entier32{ms});
-    cmd_moteur::tempoaz = entier32{frmaltazsuivi::txttempoa.nombre()};
-    cmd_moteur::tempoalt = entier32{frmaltazsuivi::txttempoh.nombre()};
+    incrementms = frmaltazsuivi::txtincrement.nombre16();
+    frmaltazsuivi::timcompteur.intervalle(incrementms);
+    cmd_moteur::tempoaz = frmaltazsuivi::txttempoa.nombre32();
+    cmd_moteur::tempoalt = frmaltazsuivi::txttempoh.nombre32();
 }
 
 // The count of altitude is checked for 16 bits by its burst, after that of azimuth has gone out.
@@ -54,7 +53,7 @@ void compte_azimut() {
     if (std::abs(ecartaz) > passage_zero)
         ecartaz += ecartaz < 0 ? tour : -tour;
     prive.pasexactaz = pas_exacts(ecartaz, general::angpasaz, "pas en azimut");
-    nbpasaz = entier16{prive.pasexactaz};
+    nbpasaz = entier16{prive.pasexactaz, {"pas en azimut"}};
     prive.resteaz = prive.pasexactaz - nbpasaz.reel();
     sommeaz += prive.resteaz;
     nbpasaz += entier16{paie(sommeaz)};
