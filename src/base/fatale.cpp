@@ -1,5 +1,6 @@
 #include "base/fatale.h"
 
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 
@@ -8,6 +9,17 @@ namespace base {
 namespace {
 
 gestionnaire_fatal gestionnaire = nullptr;
+
+// In the order of the causes.
+constexpr std::array<std::string_view, 8> libelles{"division par zéro",
+                                                   "dépassement de capacité",
+                                                   "indice hors limites",
+                                                   "fichier introuvable",
+                                                   "fin de fichier dépassée",
+                                                   "racine d'un nombre négatif",
+                                                   "valeur de propriété non valide",
+                                                   "image illisible"};
+static_assert(libelles.size() == static_cast<std::size_t>(cause::image_illisible) + 1);
 
 } // namespace
 
@@ -22,27 +34,7 @@ std::string lieu::devant() const {
     return s + " : ";
 }
 
-std::string_view libelle(cause c) {
-    switch (c) {
-    case cause::division_par_zero:
-        return "division par zéro";
-    case cause::depassement:
-        return "dépassement de capacité";
-    case cause::indice:
-        return "indice hors limites";
-    case cause::fichier_introuvable:
-        return "fichier introuvable";
-    case cause::fin_de_fichier:
-        return "fin de fichier dépassée";
-    case cause::racine_negative:
-        return "racine d'un nombre négatif";
-    case cause::propriete:
-        return "valeur de propriété non valide";
-    case cause::image_illisible:
-        return "image illisible";
-    }
-    return "";
-}
+std::string_view libelle(cause c) { return libelles[static_cast<std::size_t>(c)]; }
 
 gestionnaire_fatal installe_gestionnaire(gestionnaire_fatal g) {
     const auto ancien = gestionnaire;

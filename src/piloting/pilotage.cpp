@@ -33,11 +33,8 @@ void relache_directions(const pilote& p, const shell::champ_bouton* sauf) {
             d.bouton->enfonce(false);
 }
 
+// The button is pressed while its click is handled.
 void deplace(const pilote& p, const direction& d) {
-    if (!d.bouton->enfonce()) {
-        cmdsens = 0;
-        return;
-    }
     cmdsens = d.commande;
     relache_directions(p, d.bouton);
     d.jog();

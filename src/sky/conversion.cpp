@@ -30,7 +30,8 @@ void lit_latitude() {
         fini(((frmconfig::txtlatmin.nombre() / 60.0 + frmconfig::txtlatdeg.nombre()) * pi) / 180.0, "latrad");
 }
 
-// Azimuth in degrees from the angle folded by `arccos`; `ouest` above 0: west of the meridian.
+// Azimuth in degrees from the angle folded by `arccos`; `ouest` above 0: west of the meridian. From 0 to 360:
+// 360 + d is taken where d is not above 0.
 double azimut(double ouest) {
     const double d = math::degres(azbrut);
     double az = 0;
@@ -40,8 +41,6 @@ double azimut(double ouest) {
         az = azbrut < 0 ? -d - 180 : -d;
     if (az < 0)
         az = az + 180;
-    if (az > 360)
-        az = az - 360;
     return az;
 }
 

@@ -137,11 +137,17 @@ TEST_F(Panneau, ActsDoNothingOnWhatAPersonCannotReach) {
     menu.actif(false);
     choix.clic();
     EXPECT_EQ(pris(), "");
+    int tics = 0;
+    horloge.au_tic([&] { ++tics; });
+    horloge.marche(true);
     shell::gele();
     bouton.clic();
     stop.clic();
+    fiche.touche_echap();
     fiche.ferme();
+    boucle.avance(1'000'000'000);
     EXPECT_EQ(pris(), "") << "frozen after a failure";
+    EXPECT_EQ(tics, 0);
 }
 
 TEST_F(Panneau, AStopActsAtThePressAndTheOthersAtTheRelease) {
