@@ -1,10 +1,10 @@
 // Stands for the windows of `velmoria`: main file, port, rights, waits and panels are the program's own, and
 // this is the observer, who pushes buttons and reads on paper what the program says.
 #include "drive/etat_moteur.h"
-#include "machine_essai.h"
 #include "piloting/frmaltazpilot_champs.h"
 #include "platform/qt/lance.h"
 #include "shell/frminterface_champs.h"
+#include "shell/programme.h"
 
 #include <csignal>
 #include <cstdio>
@@ -17,8 +17,12 @@ namespace {
 using plateforme::Inp32;
 using plateforme::Out32;
 
-/// Waits for real; does `geste` at the end of the yield that brings `reste` to 0.
-class boucle_reelle : public essais::boucle_essai {
+struct fin {
+    int statut;
+};
+
+/// Waits for real, knows no timers; does `geste` at the end of the yield that brings `reste` to 0.
+class boucle_reelle final : public plateforme::boucle {
   public:
     explicit boucle_reelle(std::function<void(std::int64_t)> attente) : attente_(std::move(attente)) {}
     void attend(std::int64_t ns) override { attente_(ns); }
@@ -26,11 +30,25 @@ class boucle_reelle : public essais::boucle_essai {
         if (reste > 0 && --reste == 0)
             geste();
     }
+    void arme(shell::minuteur&, int) override {}
+    void desarme(shell::minuteur&) override {}
+    [[noreturn]] void termine(int statut) override { throw fin{statut}; }
+
     int reste = 0;
     std::function<void()> geste;
 
   private:
     std::function<void(std::int64_t)> attente_;
+};
+
+class vue_absente final : public plateforme::vue {
+    void panneau_change(const shell::panneau&) override {}
+    void eleve(const shell::panneau&) override {}
+    void repeint(const shell::panneau&) override {}
+    void controle_change(const shell::controle&, plateforme::aspect) override {}
+    shell::entree* ouvre_menu(shell::entree&, const shell::entree*) override { return nullptr; }
+    void message(const std::string& texte) override { std::printf("message : %s\n", texte.c_str()); }
+    plateforme::image charge_image(const std::filesystem::path&) override { return {1, 10, 10, 96}; }
 };
 
 /// What the process may still do: its own sets of capabilities, as the kernel tells them.
@@ -100,7 +118,7 @@ int lance(int argc, char**, composition c) {
     if (argc > 1)
         raise(SIGSTOP);
     boucle_reelle boucle{c.attente};
-    essais::vue_essai vue;
+    vue_absente vue;
     courante = {&c.port, &c.horloge, &boucle, &vue, VELMORIA_DONNEES};
     programme::construit();
     if (!c.avis.empty())
@@ -108,7 +126,7 @@ int lance(int argc, char**, composition c) {
     try {
         programme::demarre();
         observe(boucle);
-    } catch (const essais::fin& f) {
+    } catch (const fin& f) {
         return f.statut;
     }
     std::printf("le programme n'a pas quitté\n");
