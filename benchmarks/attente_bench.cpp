@@ -1,7 +1,7 @@
 // How late the waits end and what they cost the processor, beside a loop that does nothing but read the
 // clock: what that loop suffers is the machine's own noise. The two take turns within each run, so that a
 // ratio compares the same seconds.
-#include "platform/linux/attente_precise.h"
+#include "machines/linux/attente_precise.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -3,11 +3,11 @@
 // a row of keys, as fast as they come. Needs a display; the scale is that of QT_SCALE_FACTOR.
 #include "catalogue/catalogue.h"
 #include "chart/etat_carte.h"
-#include "chart/frmCercle_champs.h"
 #include "chart/redessine.h"
-#include "platform/qt/lance.h"
-#include "platform/qt/peintre.h"
-#include "platform/qt/vue_qt.h"
+#include "fields/frmCercle_champs.h"
+#include "machines/qt/lance.h"
+#include "machines/qt/peintre.h"
+#include "machines/qt/vue_qt.h"
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -1,19 +1,19 @@
 // The clock's tick, the conversion and the catalogue lists on the live windows, and what the program costs
 // while it stands idle in alt-azimuth mode. Needs a display; run it on the xcb platform.
-#include "bench/composition.h"
-#include "bench/fenetre_banc.h"
-#include "platform/linux/attente_precise.h"
-#include "platform/linux/horloge_systeme.h"
-#include "platform/qt/boucle_qt.h"
-#include "platform/qt/lance.h"
-#include "platform/qt/vue_qt.h"
-#include "settings/frmconfig_champs.h"
-#include "shell/frmcoord_champs.h"
-#include "shell/frminterface_champs.h"
+#include "drive/position.h"
+#include "fields/frmconfig_champs.h"
+#include "fields/frmcoord_champs.h"
+#include "fields/frminterface_champs.h"
+#include "machines/linux/attente_precise.h"
+#include "machines/linux/horloge_systeme.h"
+#include "machines/qt/bench/composition.h"
+#include "machines/qt/bench/fenetre_banc.h"
+#include "machines/qt/boucle_qt.h"
+#include "machines/qt/lance.h"
+#include "machines/qt/vue_qt.h"
 #include "sky/almanach.h"
 #include "sky/conversion.h"
 #include "sky/heure.h"
-#include "sky/position.h"
 
 #include <QApplication>
 #include <QEventLoop>

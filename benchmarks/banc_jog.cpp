@@ -1,15 +1,15 @@
 // How fast a motor can be driven through the live windows, and how near a slow jog comes to its nominal
 // period. Needs a display; run it on the xcb platform.
-#include "bench/composition.h"
-#include "bench/fenetre_banc.h"
 #include "drive/cmd_moteur.h"
 #include "drive/raquette.h"
-#include "piloting/frmaltazpilot_champs.h"
-#include "platform/linux/attente_precise.h"
-#include "platform/linux/horloge_systeme.h"
-#include "platform/qt/boucle_qt.h"
-#include "platform/qt/lance.h"
-#include "shell/frminterface_champs.h"
+#include "fields/frmaltazpilot_champs.h"
+#include "fields/frminterface_champs.h"
+#include "machines/linux/attente_precise.h"
+#include "machines/linux/horloge_systeme.h"
+#include "machines/qt/bench/composition.h"
+#include "machines/qt/bench/fenetre_banc.h"
+#include "machines/qt/boucle_qt.h"
+#include "machines/qt/lance.h"
 #include "sky/heure.h"
 
 #include <QApplication>

@@ -1,17 +1,17 @@
 // Tracking on the bench while other processes keep every core busy: how many ticks are missed, how late a
 // half-pulse can be, beside what the machine takes from a loop that only reads the clock. Needs a display.
 // banc_retard [SECONDS [PROCESSES]]
-#include "bench/composition.h"
-#include "bench/fenetre_banc.h"
 #include "drive/cmd_moteur.h"
-#include "platform/linux/attente_precise.h"
-#include "platform/linux/horloge_systeme.h"
-#include "platform/qt/lance.h"
-#include "settings/frmconfig_champs.h"
-#include "shell/frmcoord_champs.h"
-#include "shell/frminterface_champs.h"
+#include "fields/frmaltazsuivi_champs.h"
+#include "fields/frmconfig_champs.h"
+#include "fields/frmcoord_champs.h"
+#include "fields/frminterface_champs.h"
+#include "machines/linux/attente_precise.h"
+#include "machines/linux/horloge_systeme.h"
+#include "machines/qt/bench/composition.h"
+#include "machines/qt/bench/fenetre_banc.h"
+#include "machines/qt/lance.h"
 #include "sky/heure.h"
-#include "tracking/frmaltazsuivi_champs.h"
 
 #include <QApplication>
 #include <QTimer>

@@ -1,10 +1,10 @@
 // The whole program, started as its main files start it, with word of when it is idle.
 #include "bench/port_simule.h"
+#include "machines/linux/attente_precise.h"
+#include "machines/linux/horloge_systeme.h"
+#include "machines/qt/lance.h"
+#include "machines/qt/vue_qt.h"
 #include "oisif.h"
-#include "platform/linux/attente_precise.h"
-#include "platform/linux/horloge_systeme.h"
-#include "platform/qt/lance.h"
-#include "platform/qt/vue_qt.h"
 
 #include <QApplication>
 #include <QWidget>

@@ -2,12 +2,12 @@
 // program's own share, on a machine where port, waits and yields are free.
 #include "catalogue/selecteur.h"
 #include "drive/cmd_moteur.h"
-#include "platform/plateforme.h"
-#include "platform/vue.h"
-#include "pointing/etat_pointage.h"
-#include "pointing/frmequapointage_champs.h"
-#include "pointing/pointeequa.h"
-#include "shell/programme.h"
+#include "fields/frmequapointage_champs.h"
+#include "frame/programme.h"
+#include "seam/plateforme.h"
+#include "slewing/etat_pointage.h"
+#include "slewing/pointeequa.h"
+#include "store/vue.h"
 
 #include <benchmark/benchmark.h>
 

@@ -4,8 +4,8 @@
 #include "bench/port_simule.h"
 #include "drive/cmd_moteur.h"
 #include "drive/raquette.h"
-#include "platform/linux/attente_precise.h"
-#include "platform/plateforme.h"
+#include "machines/linux/attente_precise.h"
+#include "seam/plateforme.h"
 
 #include <benchmark/benchmark.h>
 

@@ -2,12 +2,12 @@
 // tick is timed on its own, and the median is reported.
 #include "bench/monture.h"
 #include "bench/port_simule.h"
-#include "platform/virtuelle/boucle_virtuelle.h"
-#include "settings/etat_suivi.h"
-#include "settings/frmconfig_champs.h"
-#include "shell/programme.h"
-#include "sky/position.h"
-#include "tracking/frmaltazsuivi_champs.h"
+#include "drive/position.h"
+#include "fields/frmaltazsuivi_champs.h"
+#include "fields/frmconfig_champs.h"
+#include "frame/programme.h"
+#include "machines/virtual/boucle_virtuelle.h"
+#include "tracking/etat_suivi.h"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>

@@ -6,8 +6,8 @@
 #include "bench/monture.h"
 #include "bench/port_simule.h"
 #include "echec.h"
-#include "platform/virtuelle/boucle_virtuelle.h"
-#include "shell/programme.h"
+#include "frame/programme.h"
+#include "machines/virtual/boucle_virtuelle.h"
 
 #include <cstdlib>
 #include <filesystem>

@@ -1,8 +1,7 @@
 #!/usr/bin/python3
-"""The house's rule: an include goes down the picture, never up; Qt stays in the windows; no include circles.
+"""The house's rule: an include goes down the list of folders, never up, and never round; Qt stays in machines/qt.
 
-Rows, from the top: main files; bench and platform realisations; shell; panels; files and configuration; drive and sky;
-the store's row (store, text form, seam and every `*_champs.h`); base.
+Checked beside it: each control that a `*_champs.h` declares stands in the list that its panel hands to the store.
 """
 
 import pathlib
@@ -10,34 +9,22 @@ import re
 import sys
 
 SOURCES = pathlib.Path(__file__).resolve().parent.parent / "src"
-RANGEE_DU_MAGASIN = {"shell/panneau.h", "shell/panneau.cpp", "shell/controles.h", "shell/controles.cpp",
-                     "shell/etat.h", "shell/minuteur.cpp", "shell/registre.h", "shell/registre.cpp",
-                     "settings/valeurs.h", "settings/valeurs.cpp",
-                     "platform/plateforme.h", "platform/port.h", "platform/vue.h", "platform/image.h",
-                     "platform/toile.h"}
-RANGEES = {"base": 0, "sky": 2, "drive": 2, "settings": 3, "catalogue": 3,
-           "chart": 4, "pointing": 4, "tracking": 4, "piloting": 4, "shell": 5, "platform": 6, "bench": 6,
-           "principaux": 7}
-# Variables that several rows share stand in headers of their own, with the store.
-ETATS = re.compile(r"/(etat_[a-z]+|jeu|position)\.h$")
+# From the ground floor up. Within a folder files may include each other, without a circle.
+ETAGES = ["base", "seam", "store", "fields", "drive", "catalogue", "sky", "slewing", "tracking", "bench", "chart", "piloting",
+          "settings", "pointing", "remote", "frame", "machines", "programs"]
+QT = "machines/qt/"
 
 
-def rangee(fichier):
-    if fichier in RANGEE_DU_MAGASIN or fichier.endswith("_champs.h") or ETATS.search(fichier):
-        return 1
-    return RANGEES[fichier.split("/")[0]]
+def etage(fichier):
+    return ETAGES.index(fichier.split("/")[0])
 
 
-def qt_permis(fichier):
-    return fichier.startswith(("platform/qt/", "bench/"))
-
-
-def cercles(inclusions):
+def cercle(inclusions):
     """The first circle found among the files, as a list, or None."""
-    etat = {}
+    finis = set()
 
     def descend(f, chemin):
-        if etat.get(f) == "fini":
+        if f in finis:
             return None
         if f in chemin:
             return chemin[chemin.index(f):] + [f]
@@ -45,42 +32,53 @@ def cercles(inclusions):
             trouve = descend(g, chemin + [f])
             if trouve:
                 return trouve
-        etat[f] = "fini"
+        finis.add(f)
         return None
 
-    for f in inclusions:
-        trouve = descend(f, [])
-        if trouve:
-            return trouve
-    return None
+    return next(filter(None, (descend(f, []) for f in inclusions)), None)
+
+
+def fautes_de(fichier, texte, inclusions):
+    """What is wrong with one file; notes what it includes."""
+    for numero, ligne in enumerate(texte.splitlines(), 1):
+        lieu = f"src/{fichier}:{numero}"
+        if re.match(r'#include\s*[<"]Q[A-Z]', ligne) and not fichier.startswith(QT):
+            yield f"{lieu}: Qt outside the windows"
+        inclus = re.match(r'#include\s*"([^"]+)"', ligne)
+        if not inclus:
+            continue
+        cible = inclus[1]
+        if not (SOURCES / cible).is_file():
+            yield f"{lieu}: no such header {cible}"
+            continue
+        inclusions.setdefault(fichier, []).append(cible)
+        if etage(cible) > etage(fichier):
+            yield f"{lieu}: {cible} stands above"
+        if cible.startswith(QT) and not fichier.startswith((QT, "programs/")):
+            yield f"{lieu}: {cible} belongs to the windows"
+    if fichier.endswith("_champs.h"):
+        yield from controles_oublies(fichier, texte)
+
+
+def controles_oublies(fichier, texte):
+    """A control that its panel's list leaves out would be a null pointer at its first use."""
+    liste = re.search(r"controles\(\)[^{]*\{(.*?)\n\}", texte, re.DOTALL)
+    if not liste:
+        return
+    for nom in re.findall(r"^inline constinit [\w:<>, ]+? (\w+)[\[{(]", texte, re.MULTILINE):
+        if nom != "fiche" and not re.search(rf"\b{nom}\b", liste[1]):
+            yield f"src/{fichier}: {nom} is declared and not listed"
 
 
 def main():
-    fautes = []
-    inclusions = {}
+    fautes, inclusions = [], {}
     for chemin in sorted(SOURCES.rglob("*")):
-        if chemin.suffix not in (".h", ".cpp"):
-            continue
-        fichier = chemin.relative_to(SOURCES).as_posix()
-        for numero, ligne in enumerate(chemin.read_text(encoding="utf-8").splitlines(), 1):
-            lieu = f"src/{fichier}:{numero}"
-            if re.match(r'#include\s*[<"]Q[A-Z]', ligne) and not qt_permis(fichier):
-                fautes.append(f"{lieu}: Qt outside the windows")
-            inclus = re.match(r'#include\s*"([^"]+)"', ligne)
-            if not inclus:
-                continue
-            cible = inclus.group(1)
-            if not (SOURCES / cible).is_file():
-                fautes.append(f"{lieu}: no such header {cible}")
-                continue
-            inclusions.setdefault(fichier, []).append(cible)
-            if rangee(cible) > rangee(fichier):
-                fautes.append(f"{lieu}: {cible} stands above")
-            if "platform/qt/" in cible and not fichier.startswith(("platform/qt/", "bench/", "principaux/")):
-                fautes.append(f"{lieu}: {cible} belongs to the windows")
-    cercle = cercles(inclusions)
-    if cercle:
-        fautes.append("a circle of includes: " + " -> ".join(cercle))
+        if chemin.suffix in (".h", ".cpp"):
+            fichier = chemin.relative_to(SOURCES).as_posix()
+            fautes += fautes_de(fichier, chemin.read_text(encoding="utf-8"), inclusions)
+    rond = cercle(inclusions)
+    if rond:
+        fautes.append("a circle of includes: " + " -> ".join(rond))
     if not inclusions:
         fautes.append("no source was read")
     print("\n".join(fautes) or f"{len(inclusions)} files, every include goes down")

@@ -60,6 +60,11 @@ std::int64_t ordre_de_grandeur(std::string_view n) {
 
 } // namespace
 
+void deborde(double x, const lieu& ou, int bits) {
+    fatale(cause::depassement, ou.devant() + (std::isfinite(x) ? texte(x) : "infini") +
+                                   " hors d'un entier de " + std::to_string(bits) + " bits");
+}
+
 double nombre(std::string_view texte, const lieu& ou) {
     std::string serre;
     serre.reserve(texte.size());

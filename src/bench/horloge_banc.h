@@ -2,7 +2,7 @@
 // on.
 #pragma once
 
-#include "platform/horloge_equivalente.h"
+#include "sky/horloge_equivalente.h"
 
 #include <optional>
 #include <string_view>

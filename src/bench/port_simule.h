@@ -2,7 +2,7 @@
 #pragma once
 
 #include "bench/monture.h"
-#include "platform/port.h"
+#include "seam/port.h"
 
 #include <cstddef>
 #include <cstdint>

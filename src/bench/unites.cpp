@@ -1,10 +1,10 @@
 #include "bench/unites.h"
 
 #include "base/nombre.h"
+#include "base/valeurs.h"
 #include "bench/monture.h"
-#include "platform/plateforme.h"
-#include "settings/valeurs.h"
-#include "shell/frminterface_champs.h"
+#include "fields/frminterface_champs.h"
+#include "seam/plateforme.h"
 
 #include <array>
 #include <charconv>

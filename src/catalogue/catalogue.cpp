@@ -1,8 +1,8 @@
 #include "catalogue/catalogue.h"
 
 #include "base/nombre.h"
-#include "platform/plateforme.h"
-#include "settings/valeurs.h"
+#include "base/valeurs.h"
+#include "seam/plateforme.h"
 
 #include <cmath>
 #include <string_view>

@@ -5,7 +5,7 @@
 #pragma once
 
 #include "base/entier.h"
-#include "settings/valeurs.h"
+#include "base/valeurs.h"
 
 #include <array>
 #include <filesystem>

@@ -1,9 +1,8 @@
 #include "catalogue/selecteur.h"
 
 #include "base/nombre.h"
-#include "platform/plateforme.h"
-#include "platform/vue.h"
-#include "pointing/etat_pointage.h"
+#include "seam/plateforme.h"
+#include "store/vue.h"
 
 namespace catalogue {
 
@@ -155,10 +154,9 @@ void remplit_catalogues(selecteur& s) {
     s.champs.lbCatalogue.position(1 + messier - s.premiere);
 }
 
-void prend_cible(const selecteur& s) {
+place position_choisie(const selecteur& s) {
     const int i = objet_choisi(s);
-    pointing::ciblead = element(s.memoire.objets.ad, i, "lbObjets");
-    pointing::cibledec = element(s.memoire.objets.dec, i, "lbObjets");
+    return {element(s.memoire.objets.ad, i, "lbObjets"), element(s.memoire.objets.dec, i, "lbObjets")};
 }
 
 void ouvre_menu_etoile(const selecteur& s, shell::champ_liste& liste) {

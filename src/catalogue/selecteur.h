@@ -3,7 +3,7 @@
 #pragma once
 
 #include "catalogue/catalogue.h"
-#include "catalogue/selecteur_champs.h"
+#include "fields/selecteur_champs.h"
 
 namespace catalogue {
 
@@ -33,8 +33,14 @@ std::vector<std::string> charge_etoiles(selecteur& s);
 /// Fills the list of catalogues and selects Messier's, which loads it.
 void remplit_catalogues(selecteur& s);
 
-/// The selected object's position becomes the target `ciblead`, `cibledec`. Fatal with none selected.
-void prend_cible(const selecteur& s);
+/// A position in catalogue units: 600 to the hour, 600 to the degree.
+struct place {
+    base::entier32 ad;
+    base::entier32 dec;
+};
+
+/// The selected object's position. Fatal with none selected.
+place position_choisie(const selecteur& s);
 
 /// Opens the popup of the star on the selected line of a list of bright stars. Fatal with none selected.
 void ouvre_menu_etoile(const selecteur& s, shell::champ_liste& liste);

@@ -4,15 +4,15 @@
 #include "catalogue/catalogue.h"
 #include "chart/astres_carte.h"
 #include "chart/etat_carte.h"
-#include "chart/frmCercle_champs.h"
 #include "chart/frmImage.h"
-#include "chart/frmLegend_champs.h"
 #include "chart/redessine.h"
 #include "chart/vue_carte.h"
-#include "pointing/etat_pointage.h"
-#include "pointing/frmaltazpointage_champs.h"
-#include "pointing/frmequapointage_champs.h"
-#include "pointing/pointeequa.h"
+#include "fields/frmCercle_champs.h"
+#include "fields/frmLegend_champs.h"
+#include "fields/frmaltazpointage_champs.h"
+#include "fields/frmequapointage_champs.h"
+#include "slewing/etat_pointage.h"
+#include "slewing/pointeequa.h"
 
 namespace frmCercle {
 

@@ -1,9 +1,9 @@
 #include "chart/frmImage.h"
 
 #include "catalogue/catalogue.h"
-#include "chart/frmImage_champs.h"
-#include "platform/plateforme.h"
-#include "platform/vue.h"
+#include "fields/frmImage_champs.h"
+#include "seam/plateforme.h"
+#include "store/vue.h"
 
 namespace frmImage {
 

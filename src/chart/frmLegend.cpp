@@ -1,7 +1,7 @@
 #include "chart/frmLegend.h"
 
-#include "chart/frmCercle_champs.h"
-#include "chart/frmLegend_champs.h"
+#include "fields/frmCercle_champs.h"
+#include "fields/frmLegend_champs.h"
 
 namespace frmLegend {
 

@@ -3,10 +3,10 @@
 #include "base/nombre.h"
 #include "chart/astres_carte.h"
 #include "chart/etat_carte.h"
-#include "chart/frmCercle_champs.h"
 #include "chart/vue_carte.h"
-#include "pointing/etat_pointage.h"
+#include "fields/frmCercle_champs.h"
 #include "sky/math.h"
+#include "slewing/etat_pointage.h"
 
 #include <cmath>
 

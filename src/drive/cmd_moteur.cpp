@@ -1,9 +1,9 @@
 #include "drive/cmd_moteur.h"
 
 #include "base/nombre.h"
-#include "platform/plateforme.h"
-#include "settings/valeurs.h"
-#include "sky/position.h"
+#include "base/valeurs.h"
+#include "drive/position.h"
+#include "seam/plateforme.h"
 
 namespace cmd_moteur {
 

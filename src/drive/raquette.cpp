@@ -1,8 +1,8 @@
 #include "drive/raquette.h"
 
 #include "drive/cmd_moteur.h"
-#include "piloting/frmraquette_champs.h"
-#include "platform/plateforme.h"
+#include "fields/frmraquette_champs.h"
+#include "seam/plateforme.h"
 
 #include <algorithm>
 #include <iterator>

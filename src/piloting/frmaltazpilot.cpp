@@ -1,7 +1,7 @@
 #include "piloting/frmaltazpilot.h"
 
 #include "drive/cmd_moteur.h"
-#include "piloting/frmaltazpilot_champs.h"
+#include "fields/frmaltazpilot_champs.h"
 #include "piloting/pilotage.h"
 
 namespace frmaltazpilot {

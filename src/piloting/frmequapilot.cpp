@@ -1,7 +1,7 @@
 #include "piloting/frmequapilot.h"
 
 #include "drive/cmd_moteur.h"
-#include "piloting/frmequapilot_champs.h"
+#include "fields/frmequapilot_champs.h"
 #include "piloting/pilotage.h"
 #include "tracking/suivi_equatorial.h"
 

@@ -1,12 +1,12 @@
 #include "piloting/frmraquette.h"
 
+#include "base/valeurs.h"
 #include "drive/etat_moteur.h"
-#include "piloting/frmraquette_champs.h"
+#include "fields/frminterface_champs.h"
+#include "fields/frmraquette_champs.h"
 #include "piloting/jeu.h"
-#include "platform/plateforme.h"
-#include "settings/champs_fichier.h"
-#include "settings/valeurs.h"
-#include "shell/frminterface_champs.h"
+#include "seam/plateforme.h"
+#include "store/champs_fichier.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
 #include "piloting/pilotage.h"
 
-#include "platform/plateforme.h"
-#include "settings/valeurs.h"
+#include "base/valeurs.h"
+#include "seam/plateforme.h"
 
 namespace piloting {
 

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "drive/etat_moteur.h"
-#include "piloting/reglage_champs.h"
-#include "shell/controles.h"
+#include "fields/reglage_champs.h"
+#include "store/controles.h"
 
 #include <array>
 

@@ -1,9 +1,9 @@
 #include "pointing/carte.h"
 
 #include "chart/etat_carte.h"
-#include "chart/frmCercle_champs.h"
 #include "chart/redessine.h"
-#include "pointing/etat_pointage.h"
+#include "fields/frmCercle_champs.h"
+#include "slewing/etat_pointage.h"
 
 namespace pointing {
 

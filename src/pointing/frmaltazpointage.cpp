@@ -2,12 +2,12 @@
 
 #include "base/nombre.h"
 #include "catalogue/selecteur.h"
+#include "drive/position.h"
+#include "fields/frmaltazpointage_champs.h"
 #include "pointing/carte.h"
-#include "pointing/etat_pointage.h"
-#include "pointing/frmaltazpointage_champs.h"
 #include "pointing/pointage.h"
-#include "pointing/pointealtaz.h"
-#include "sky/position.h"
+#include "slewing/etat_pointage.h"
+#include "slewing/pointealtaz.h"
 
 #include <cmath>
 
@@ -49,7 +49,9 @@ void aligne() {
 }
 
 void pointe() {
-    catalogue::prend_cible(selecteur);
+    const auto objet = catalogue::position_choisie(selecteur);
+    pointing::ciblead = objet.ad;
+    pointing::cibledec = objet.dec;
     pointing::pointe_objet();
 }
 

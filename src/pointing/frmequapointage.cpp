@@ -1,15 +1,15 @@
 #include "pointing/frmequapointage.h"
 
 #include "base/nombre.h"
+#include "base/valeurs.h"
 #include "catalogue/selecteur.h"
-#include "platform/image.h"
-#include "platform/plateforme.h"
+#include "fields/frmequapointage_champs.h"
 #include "pointing/carte.h"
-#include "pointing/etat_pointage.h"
-#include "pointing/frmequapointage_champs.h"
 #include "pointing/pointage.h"
-#include "pointing/pointeequa.h"
-#include "settings/valeurs.h"
+#include "seam/image.h"
+#include "seam/plateforme.h"
+#include "slewing/etat_pointage.h"
+#include "slewing/pointeequa.h"
 
 namespace frmequapointage {
 
@@ -70,7 +70,9 @@ void croit_la_cible() {
 }
 
 void pointe_objet() {
-    catalogue::prend_cible(selecteur);
+    const auto objet = catalogue::position_choisie(selecteur);
+    pointing::ciblead = objet.ad;
+    pointing::cibledec = objet.dec;
     pointing::pointeequa();
     choix.tADpos.legende(catalogue::texte_ad(catalogue::partage(ciblead)));
     choix.tdcpos.legende(catalogue::texte_dec_objet(cibledec));

@@ -1,9 +1,9 @@
 #include "pointing/pointage.h"
 
 #include "base/nombre.h"
-#include "platform/plateforme.h"
-#include "pointing/etat_pointage.h"
-#include "settings/valeurs.h"
+#include "base/valeurs.h"
+#include "seam/plateforme.h"
+#include "slewing/etat_pointage.h"
 
 #include <cmath>
 

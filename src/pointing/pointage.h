@@ -2,8 +2,8 @@
 #pragma once
 
 #include "base/entier.h"
-#include "catalogue/selecteur_champs.h"
-#include "pointing/pointage_champs.h"
+#include "fields/pointage_champs.h"
+#include "fields/selecteur_champs.h"
 
 #include <string>
 

@@ -1,9 +1,9 @@
 #include "settings/frmequaconfig.h"
 
-#include "platform/plateforme.h"
-#include "settings/champs_fichier.h"
-#include "settings/frmequaconfig_champs.h"
-#include "settings/mode_raquette.h"
+#include "drive/mode_raquette.h"
+#include "fields/frmequaconfig_champs.h"
+#include "seam/plateforme.h"
+#include "store/champs_fichier.h"
 
 namespace frmequaconfig {
 

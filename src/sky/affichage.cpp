@@ -2,12 +2,12 @@
 
 #include "base/nombre.h"
 #include "drive/etat_moteur.h"
-#include "settings/frmconfig_champs.h"
-#include "shell/frmcoord_champs.h"
+#include "drive/position.h"
+#include "fields/frmaltazsuivi_champs.h"
+#include "fields/frmconfig_champs.h"
+#include "fields/frmcoord_champs.h"
 #include "sky/conversion.h"
 #include "sky/math.h"
-#include "sky/position.h"
-#include "tracking/frmaltazsuivi_champs.h"
 
 #include <cmath>
 

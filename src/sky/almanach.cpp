@@ -1,9 +1,9 @@
 #include "sky/almanach.h"
 
 #include "base/nombre.h"
-#include "platform/plateforme.h"
-#include "settings/valeurs.h"
-#include "shell/frmcoord_champs.h"
+#include "base/valeurs.h"
+#include "fields/frmcoord_champs.h"
+#include "seam/plateforme.h"
 
 namespace general {
 

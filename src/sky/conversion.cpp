@@ -1,10 +1,10 @@
 #include "sky/conversion.h"
 
 #include "base/nombre.h"
-#include "settings/frmconfig_champs.h"
+#include "drive/position.h"
+#include "fields/frmconfig_champs.h"
 #include "sky/almanach.h"
 #include "sky/math.h"
-#include "sky/position.h"
 #include "sky/temps_sideral.h"
 
 #include <cmath>

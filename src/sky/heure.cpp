@@ -1,6 +1,6 @@
 #include "sky/heure.h"
 
-#include "shell/frmcoord_champs.h"
+#include "fields/frmcoord_champs.h"
 #include "sky/almanach.h"
 
 namespace general {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/entier.h"
-#include "platform/plateforme.h"
+#include "seam/plateforme.h"
 
 namespace general {
 

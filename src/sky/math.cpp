@@ -1,7 +1,7 @@
 #include "sky/math.h"
 
 #include "base/nombre.h"
-#include "settings/frmconfig_champs.h"
+#include "fields/frmconfig_champs.h"
 
 #include <cmath>
 

@@ -1,7 +1,7 @@
 #include "sky/temps_sideral.h"
 
-#include "settings/frmconfig_champs.h"
-#include "shell/frmcoord_champs.h"
+#include "fields/frmconfig_champs.h"
+#include "fields/frmcoord_champs.h"
 
 namespace general {
 

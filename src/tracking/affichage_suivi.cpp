@@ -1,12 +1,12 @@
 #include "tracking/affichage_suivi.h"
 
 #include "drive/etat_moteur.h"
-#include "shell/frmcoord_champs.h"
+#include "drive/position.h"
+#include "fields/frmaltazsuivi_champs.h"
+#include "fields/frmcoord_champs.h"
 #include "sky/math.h"
-#include "sky/position.h"
 #include "sky/temps_sideral.h"
-#include "tracking/frmaltazsuivi_champs.h"
-#include "tracking/tic_suivi.h"
+#include "tracking/etat_suivi.h"
 
 #include <cmath>
 

@@ -1,6 +1,6 @@
 #include "tracking/horloge_suivi.h"
 
-#include "shell/frmcoord_champs.h"
+#include "fields/frmcoord_champs.h"
 #include "sky/almanach.h"
 #include "sky/heure.h"
 

@@ -1,10 +1,10 @@
 #include "tracking/suivi_equatorial.h"
 
 #include "base/nombre.h"
+#include "base/valeurs.h"
 #include "drive/cmd_moteur.h"
-#include "piloting/frmequapilot_champs.h"
-#include "platform/plateforme.h"
-#include "settings/valeurs.h"
+#include "fields/frmequapilot_champs.h"
+#include "seam/plateforme.h"
 #include "tracking/fraction.h"
 
 namespace suivi_equatorial {

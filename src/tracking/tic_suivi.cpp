@@ -2,11 +2,12 @@
 
 #include "base/nombre.h"
 #include "drive/cmd_moteur.h"
+#include "drive/position.h"
+#include "fields/frmaltazsuivi_champs.h"
 #include "sky/conversion.h"
-#include "sky/position.h"
 #include "tracking/affichage_suivi.h"
+#include "tracking/etat_suivi.h"
 #include "tracking/fraction.h"
-#include "tracking/frmaltazsuivi_champs.h"
 #include "tracking/horloge_suivi.h"
 
 #include <cmath>

@@ -9,9 +9,6 @@
 
 namespace tracking {
 
-inline double sommeaz = 0;  ///< accumulated rounding of azimuth, steps, signed
-inline double sommealt = 0; ///< the same of altitude
-
 /// What the tracking panel keeps while it is open.
 struct memoire {
     double altnew = 0; ///< altitude of this tick, arcseconds

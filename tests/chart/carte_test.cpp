@@ -1,11 +1,11 @@
 #include "chart/astres_carte.h"
 #include "chart/etat_carte.h"
-#include "chart/frmCercle_champs.h"
 #include "chart/frmImage.h"
-#include "chart/frmImage_champs.h"
 #include "chart/redessine.h"
 #include "chart/vue_carte.h"
 #include "essai.h"
+#include "fields/frmCercle_champs.h"
+#include "fields/frmImage_champs.h"
 
 namespace {
 

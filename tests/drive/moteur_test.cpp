@@ -1,10 +1,10 @@
 #include "drive/cmd_moteur.h"
 
+#include "drive/position.h"
 #include "drive/raquette.h"
 #include "essai.h"
-#include "piloting/frmraquette_champs.h"
-#include "platform/plateforme.h"
-#include "sky/position.h"
+#include "fields/frmraquette_champs.h"
+#include "seam/plateforme.h"
 
 using namespace cmd_moteur;
 using base::cause;

@@ -3,13 +3,13 @@
 #include "fenetres.h"
 
 #include "base/octets.h"
-#include "bench/composition.h"
-#include "bench/fenetre_banc.h"
-#include "piloting/frmaltazpilot_champs.h"
-#include "shell/frmcoord_champs.h"
-#include "shell/frminterface_champs.h"
+#include "drive/position.h"
+#include "fields/frmaltazpilot_champs.h"
+#include "fields/frmcoord_champs.h"
+#include "fields/frminterface_champs.h"
+#include "machines/qt/bench/composition.h"
+#include "machines/qt/bench/fenetre_banc.h"
 #include "sky/heure.h"
-#include "sky/position.h"
 
 #include <QLabel>
 #include <QPushButton>

@@ -3,9 +3,9 @@
 
 #include "chart/astres_carte.h"
 #include "chart/etat_carte.h"
-#include "chart/frmCercle_champs.h"
-#include "chart/frmImage_champs.h"
 #include "chart/redessine.h"
+#include "fields/frmCercle_champs.h"
+#include "fields/frmImage_champs.h"
 
 #include <set>
 

@@ -2,8 +2,8 @@
 #include "fenetres.h"
 
 #include "base/fatale.h"
-#include "platform/qt/fin.h"
-#include "shell/frminterface_champs.h"
+#include "fields/frminterface_champs.h"
+#include "machines/qt/fin.h"
 
 #include <QAction>
 #include <QMenuBar>

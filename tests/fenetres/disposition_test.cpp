@@ -1,9 +1,9 @@
 // Every panel at every scale: all controls inside what their frame leaves, no text cut.
 #include "fenetres.h"
 
-#include "piloting/frmaltazpilot_champs.h"
-#include "piloting/frmequapilot_champs.h"
-#include "piloting/frmraquette_champs.h"
+#include "fields/frmaltazpilot_champs.h"
+#include "fields/frmequapilot_champs.h"
+#include "fields/frmraquette_champs.h"
 
 #include <QComboBox>
 #include <QGroupBox>

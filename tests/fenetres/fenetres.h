@@ -2,10 +2,10 @@
 #pragma once
 
 #include "drive/etat_moteur.h"
-#include "platform/qt/boucle_qt.h"
-#include "platform/qt/lance.h"
-#include "platform/qt/vue_qt.h"
-#include "shell/programme.h"
+#include "frame/programme.h"
+#include "machines/qt/boucle_qt.h"
+#include "machines/qt/lance.h"
+#include "machines/qt/vue_qt.h"
 
 #include <QApplication>
 #include <QLineEdit>

@@ -2,9 +2,9 @@
 // windows.
 #include "fenetres.h"
 
-#include "piloting/frmaltazpilot_champs.h"
-#include "shell/frminterface_champs.h"
-#include "sky/position.h"
+#include "drive/position.h"
+#include "fields/frmaltazpilot_champs.h"
+#include "fields/frminterface_champs.h"
 
 #include <QListWidget>
 #include <QProgressBar>

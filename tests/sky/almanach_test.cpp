@@ -1,6 +1,6 @@
 #include "essai.h"
-#include "settings/frmconfig_champs.h"
-#include "shell/frmcoord_champs.h"
+#include "fields/frmconfig_champs.h"
+#include "fields/frmcoord_champs.h"
 #include "sky/almanach.h"
 #include "sky/temps_sideral.h"
 

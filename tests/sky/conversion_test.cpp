@@ -1,11 +1,11 @@
+#include "drive/position.h"
 #include "essai.h"
-#include "settings/frmconfig_champs.h"
-#include "shell/frmcoord_champs.h"
+#include "fields/frmaltazsuivi_champs.h"
+#include "fields/frmconfig_champs.h"
+#include "fields/frmcoord_champs.h"
 #include "sky/affichage.h"
 #include "sky/almanach.h"
 #include "sky/conversion.h"
-#include "sky/position.h"
-#include "tracking/frmaltazsuivi_champs.h"
 
 #include <cmath>
 #include <fstream>

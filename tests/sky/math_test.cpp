@@ -1,5 +1,5 @@
 #include "essai.h"
-#include "settings/frmconfig_champs.h"
+#include "fields/frmconfig_champs.h"
 #include "sky/math.h"
 
 #include <cmath>

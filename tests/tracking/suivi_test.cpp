@@ -1,15 +1,15 @@
 // The tracking's arithmetic: its clock at every carry, the steps of a tick and what is carried over, a
 // night's sum.
 #include "drive/etat_moteur.h"
+#include "drive/position.h"
 #include "essai.h"
-#include "piloting/frmequapilot_champs.h"
-#include "settings/etat_suivi.h"
-#include "settings/frmconfig_champs.h"
-#include "shell/frmcoord_champs.h"
-#include "sky/position.h"
+#include "fields/frmaltazsuivi_champs.h"
+#include "fields/frmconfig_champs.h"
+#include "fields/frmcoord_champs.h"
+#include "fields/frmequapilot_champs.h"
 #include "sky/temps_sideral.h"
 #include "tracking/affichage_suivi.h"
-#include "tracking/frmaltazsuivi_champs.h"
+#include "tracking/etat_suivi.h"
 #include "tracking/horloge_suivi.h"
 #include "tracking/tic_suivi.h"
 

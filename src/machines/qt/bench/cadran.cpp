@@ -1,0 +1,45 @@
+#include "machines/qt/bench/cadran.h"
+
+#include <QPainter>
+#include <cmath>
+
+namespace banc {
+
+namespace {
+constexpr int cote = 92;
+}
+
+cadran::cadran(QWidget* parent, double zero, int sens) : QWidget(parent), zero_(zero), sens_(sens) {
+    setFixedSize(cote, cote);
+}
+
+void cadran::montre(double secondes) {
+    const int dixiemes = static_cast<int>(std::lround(std::fmod(secondes / 360.0, 3600.0)));
+    if (dixiemes == dixiemes_)
+        return;
+    dixiemes_ = dixiemes;
+    update();
+}
+
+void cadran::paintEvent(QPaintEvent*) {
+    QPainter p{this};
+    p.setRenderHint(QPainter::Antialiasing);
+    p.translate(cote / 2.0, cote / 2.0);
+    const double rayon = cote / 2.0 - 2;
+    p.setPen(QColor{0x60, 0x60, 0x60});
+    p.setBrush(Qt::white);
+    p.drawEllipse(QPointF{0, 0}, rayon, rayon);
+    for (int i = 0; i < 36; ++i) {
+        p.save();
+        p.rotate(i * 10);
+        p.drawLine(QPointF{0, -rayon}, QPointF{0, -rayon + (i % 9 == 0 ? 9 : 4)});
+        p.restore();
+    }
+    p.rotate(zero_ + sens_ * dixiemes_ / 10.0);
+    p.setPen(QPen{QColor{0xC8, 0x32, 0x28}, 2.5, Qt::SolidLine, Qt::RoundCap});
+    p.drawLine(QPointF{0, 8}, QPointF{0, -rayon + 10});
+    p.setBrush(QColor{0xC8, 0x32, 0x28});
+    p.drawEllipse(QPointF{0, 0}, 3, 3);
+}
+
+} // namespace banc

@@ -1,0 +1,25 @@
+// The composition of a program with windows that runs on the bench.
+#pragma once
+
+#include "bench/etabli.h"
+#include "machines/qt/lance.h"
+
+namespace banc {
+
+/// Port, clock, waits and yields on the bench `e`, whose half-pulses are timed; what else there is to choose
+/// is left to the caller. All three must outlive the program; `attente.attend(ns)` returns no earlier than
+/// its length after its call.
+template <class Attente>
+plateforme::qt::composition sur_le_banc(etabli& e, plateforme::horloge& horloge, Attente& attente) {
+    return {.port = e.port(),
+            .horloge = horloge,
+            .attente =
+                [&e, &attente](std::int64_t ns) {
+                    e.commence_attente(ns);
+                    attente.attend(ns);
+                },
+            .apres_cession = [&e] { e.cession_finie(); },
+            .icone = "velmoria-banc"};
+}
+
+} // namespace banc

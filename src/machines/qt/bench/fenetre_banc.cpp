@@ -1,0 +1,261 @@
+#include "machines/qt/bench/fenetre_banc.h"
+
+#include "bench/unites.h"
+#include "drive/position.h"
+#include "fields/frminterface_champs.h"
+#include "machines/qt/bench/cadran.h"
+#include "machines/qt/bench/raquette_banc.h"
+#include "machines/qt/bench/voyants.h"
+#include "machines/qt/mesures.h"
+
+#include <QDir>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <cmath>
+
+namespace banc {
+
+namespace {
+
+constexpr int periode_ms = 100;
+
+// Degrees, minutes, seconds; the sign stands once, in front.
+QString angle(double secondes) {
+    const auto dixiemes = std::llround(std::fabs(secondes) * 10);
+    return QString{"%1%2° %3' %4,%5''"}
+        .arg(secondes < 0 && dixiemes > 0 ? QStringLiteral("−") : QString{})
+        .arg(dixiemes / 36000)
+        .arg(dixiemes / 600 % 60, 2, 10, QChar{'0'})
+        .arg(dixiemes / 10 % 60, 2, 10, QChar{'0'})
+        .arg(dixiemes % 10);
+}
+
+// A label is painted only when its text changes: each repaint delays a pulse.
+void ecrit(QLabel* l, const QString& texte) {
+    if (l->text() != texte)
+        l->setText(texte);
+}
+
+QLabel* chiffre(const char* nom, int largeur) {
+    auto* l = new QLabel{"0"};
+    l->setObjectName(nom);
+    l->setAccessibleName(nom);
+    l->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    l->setFixedWidth(largeur);
+    return l;
+}
+
+QPushButton* bouton(const char* nom, const QString& texte) {
+    auto* b = new QPushButton{texte};
+    b->setObjectName(nom);
+    b->setAccessibleName(nom);
+    return b;
+}
+
+} // namespace
+
+fenetre_banc::fenetre_banc(etabli& e, horloge_banc& h) : etabli_(e), horloge_(h) {
+    setObjectName("banc");
+    setWindowTitle("Velmoria : banc d'essai");
+    auto* rang = new QHBoxLayout{this};
+    rang->setSizeConstraint(QLayout::SetFixedSize);
+    auto* colonne = new QVBoxLayout;
+    colonne->addWidget(fait_lignes_du_port());
+    colonne->addWidget(fait_axes());
+    colonne->addWidget(fait_horloge());
+    colonne->addWidget(fait_mesures());
+    rang->addLayout(colonne);
+    auto* raquette = new raquette_banc{etabli_.port(), this};
+    rang->addWidget(raquette);
+    raquette->ecoute(this);
+    rafraichit();
+    startTimer(periode_ms);
+}
+
+QWidget* fenetre_banc::fait_lignes_du_port() {
+    auto* groupe = new QGroupBox{"Lignes du port"};
+    auto* colonne = new QVBoxLayout{groupe};
+    voyants_ = new voyants{groupe};
+    voyants_->setObjectName("voyants");
+    registres_ = new QLabel;
+    registres_->setObjectName("registres");
+    colonne->addWidget(voyants_);
+    colonne->addWidget(registres_);
+    return groupe;
+}
+
+QWidget* fenetre_banc::fait_axes() {
+    auto* groupe = new QGroupBox{"Monture"};
+    auto* grille = new QGridLayout{groupe};
+    grille->setHorizontalSpacing(12);
+    const char* titres[] = {"impulsions/s", "sens 0", "sens levé", "angle réel", "position crue"};
+    for (int i = 0; i < 5; ++i) {
+        auto* t = new QLabel{QString::fromUtf8(titres[i])};
+        t->setAlignment(Qt::AlignRight);
+        grille->addWidget(t, 0, i + 1);
+    }
+    static constexpr const char* noms[2][5] = {
+        {"cadence_az", "sens0_az", "sens8_az", "angle_az", "cru_az"},
+        {"cadence_alt", "sens0_alt", "sens2_alt", "angle_alt", "cru_alt"}};
+    for (int a = 0; a < 2; ++a) {
+        auto& l = axes_[static_cast<std::size_t>(a)];
+        grille->addWidget(new QLabel{a == 0 ? "Azimut (A.D)" : "Altitude (Déc.)"}, a + 1, 0);
+        l.cadence = chiffre(noms[a][0], 82);
+        l.zero = chiffre(noms[a][1], 76);
+        l.leve = chiffre(noms[a][2], 76);
+        l.angle = chiffre(noms[a][3], 104);
+        l.cru = chiffre(noms[a][4], 104);
+        int colonne = 1;
+        for (auto* champ : {l.cadence, l.zero, l.leve, l.angle, l.cru})
+            grille->addWidget(champ, a + 1, colonne++);
+    }
+    auto* rang = new QHBoxLayout;
+    // Azimuth from the top clockwise, as on a map; altitude from the right, upwards, as seen from the side.
+    cadrans_ = {new cadran{groupe, 0, 1}, new cadran{groupe, 90, -1}};
+    cadrans_[0]->setObjectName("cadran_az");
+    cadrans_[1]->setObjectName("cadran_alt");
+    rang->addStretch();
+    rang->addWidget(new QLabel{"Azimut (A.D)"});
+    rang->addWidget(cadrans_[0]);
+    rang->addSpacing(24);
+    rang->addWidget(new QLabel{"Altitude (Déc.)"});
+    rang->addWidget(cadrans_[1]);
+    rang->addStretch();
+    grille->addLayout(rang, 3, 0, 1, 6);
+
+    auto* boutons = new QHBoxLayout;
+    auto* pose = bouton("pose", "Poser la monture à la position crue");
+    auto* zero = bouton("zero", "Remettre les comptes à zéro");
+    QObject::connect(pose, &QPushButton::clicked, this, [this] {
+        etabli_.mount().pose(general::posaz, general::posalt);
+        rafraichit();
+    });
+    QObject::connect(zero, &QPushButton::clicked, this, [this] {
+        etabli_.mount().zero();
+        rafraichit();
+    });
+    boutons->addWidget(pose);
+    boutons->addWidget(zero);
+    grille->addLayout(boutons, 4, 0, 1, 6);
+    return groupe;
+}
+
+QWidget* fenetre_banc::fait_horloge() {
+    auto* groupe = new QGroupBox{"Horloge de l'ordinateur, vue par le programme"};
+    auto* rang = new QHBoxLayout{groupe};
+    heure_ = new QLabel;
+    heure_->setObjectName("heure");
+    heure_->setMinimumWidth(150);
+    date_ = new QLineEdit;
+    date_->setObjectName("date");
+    date_->setAccessibleName("date");
+    date_->setPlaceholderText("2001-08-15 22:00:00");
+    auto* regle = bouton("regle", "Régler");
+    auto* revient = bouton("cette_nuit", "Cette nuit");
+    revient->setToolTip("Le ciel de cette nuit, porté dans les années de l'almanach");
+    const auto met_a_l_heure = [this] {
+        const auto i = lit_date(date_->text().trimmed().toStdString());
+        if (i)
+            horloge_.regle(*i);
+        else
+            date_->selectAll(); // not a date: nothing is set
+        rafraichit();
+    };
+    QObject::connect(regle, &QPushButton::clicked, this, met_a_l_heure);
+    QObject::connect(date_, &QLineEdit::returnPressed, this, met_a_l_heure);
+    QObject::connect(revient, &QPushButton::clicked, this, [this] {
+        horloge_.revient();
+        rafraichit();
+    });
+    rang->addWidget(heure_);
+    rang->addWidget(date_, 1);
+    rang->addWidget(regle);
+    rang->addWidget(revient);
+    return groupe;
+}
+
+QWidget* fenetre_banc::fait_mesures() {
+    auto* groupe = new QGroupBox{"Mesures"};
+    auto* grille = new QGridLayout{groupe};
+    retard_ = new QLabel;
+    retard_->setObjectName("retard");
+    auto* oublie = bouton("oublie_retard", "Remettre à zéro");
+    QObject::connect(oublie, &QPushButton::clicked, this, [this] {
+        etabli_.oublie_retard();
+        rafraichit();
+    });
+    grille->addWidget(new QLabel{"Pire retard d'une demi-impulsion"}, 0, 0);
+    grille->addWidget(retard_, 0, 1);
+    grille->addWidget(oublie, 0, 2);
+
+    chemin_ = new QLineEdit{QDir::home().filePath("velmoria.vcd")};
+    chemin_->setObjectName("chemin_vcd");
+    enregistre_ = bouton("enregistre", "Enregistrer les lignes");
+    etat_ = new QLabel;
+    etat_->setObjectName("etat_vcd");
+    QObject::connect(enregistre_, &QPushButton::clicked, this, [this] { bascule_enregistrement(); });
+    grille->addWidget(new QLabel{"Enregistrement (VCD)"}, 1, 0);
+    grille->addWidget(chemin_, 1, 1);
+    grille->addWidget(enregistre_, 1, 2);
+    grille->addWidget(etat_, 2, 0, 1, 3);
+    grille->setColumnStretch(1, 1);
+    return groupe;
+}
+
+void fenetre_banc::bascule_enregistrement() {
+    const auto chemin = QDir::toNativeSeparators(chemin_->text());
+    if (etabli_.enregistre_encore()) {
+        const bool complet = etabli_.cesse_d_enregistrer();
+        etat_->setText(complet ? "Enregistré dans " + chemin
+                               : "L'enregistrement dans " + chemin + " est incomplet.");
+    } else if (etabli_.enregistre(plateforme::qt::lu(chemin))) {
+        etat_->setText("Enregistrement en cours dans " + chemin);
+    } else {
+        etat_->setText("Impossible d'écrire " + chemin);
+    }
+    const bool en_cours = etabli_.enregistre_encore();
+    enregistre_->setText(en_cours ? "Arrêter l'enregistrement" : "Enregistrer les lignes");
+    chemin_->setEnabled(!en_cours);
+}
+
+void fenetre_banc::rafraichit() {
+    auto& port = etabli_.port();
+    auto& monture = etabli_.mount();
+    voyants_->montre(port.donnees());
+    ecrit(registres_,
+          QString{"registre 888 : %1     registre 890 : %2"}.arg(port.donnees()).arg(port.controle()));
+
+    const auto n = monture.compte();
+    const auto u = unites_du_mode();
+    const auto a = monture.position(u.az, u.alt);
+    const auto maintenant = etabli_.maintenant();
+    const std::array<double, 2> reels{a.az, a.alt};
+    const std::array<double, 2> crus{general::posaz, general::posalt};
+    const std::array<std::array<std::uint64_t, 2>, 2> comptes{{{n.az0, n.az8}, {n.alt0, n.alt2}}};
+    // The equatorial mount's position is no angle of an axis: it is not counted in steps.
+    const bool compte = frminterface::baraltaz.regarde_visible();
+    for (std::size_t i = 0; i < 2; ++i) {
+        const auto cadence = monture.cadence(i == 0 ? axe::azimut : axe::altitude, maintenant);
+        ecrit(axes_[i].cadence, QString::number(cadence, 'f', cadence < 100 ? 1 : 0).replace('.', ','));
+        ecrit(axes_[i].zero, QString::number(comptes[i][0]));
+        ecrit(axes_[i].leve, QString::number(comptes[i][1]));
+        ecrit(axes_[i].angle, angle(reels[i]));
+        ecrit(axes_[i].cru, compte ? angle(crus[i]) : QStringLiteral("—"));
+        cadrans_[i]->montre(reels[i]);
+    }
+    const auto t = horloge_.maintenant();
+    ecrit(heure_, QString::asprintf("%04d-%02d-%02d %02d:%02d:%02d", t.annee, t.mois, t.jour, t.heure,
+                                    t.minute, t.seconde));
+    ecrit(retard_,
+          QString::number(static_cast<double>(etabli_.pire_retard()) / 1000.0, 'f', 1).replace('.', ',') +
+              " µs");
+}
+
+void fenetre_banc::timerEvent(QTimerEvent*) { rafraichit(); }
+
+} // namespace banc

@@ -1,0 +1,54 @@
+#include "machines/qt/boucle_qt.h"
+
+#include "machines/qt/fin.h"
+#include "store/controles.h"
+
+#include <QCoreApplication>
+#include <QTimerEvent>
+#include <algorithm>
+
+namespace plateforme::qt {
+
+boucle_qt::boucle_qt(std::function<void(std::int64_t)> attente, std::function<void()> apres_cession)
+    : attente_(std::move(attente)), apres_cession_(std::move(apres_cession)) {}
+
+void boucle_qt::attend(std::int64_t ns) {
+    if (ns > 0)
+        attente_(ns);
+}
+
+void boucle_qt::cede() {
+    ++passes_;
+    QCoreApplication::processEvents(QEventLoop::AllEvents);
+    if (apres_cession_)
+        apres_cession_();
+}
+
+void boucle_qt::arme(shell::minuteur& m, int ms) {
+    desarme(m);
+    agenda_.push_back({&m, startTimer(std::max(0, ms), Qt::PreciseTimer)});
+}
+
+void boucle_qt::desarme(shell::minuteur& m) {
+    const auto place =
+        std::find_if(agenda_.begin(), agenda_.end(), [&m](const rendez_vous& r) { return r.minuteur == &m; });
+    if (place == agenda_.end())
+        return;
+    killTimer(place->numero);
+    agenda_.erase(place);
+}
+
+void boucle_qt::timerEvent(QTimerEvent* e) {
+    const auto place = std::find_if(agenda_.begin(), agenda_.end(),
+                                    [e](const rendez_vous& r) { return r.numero == e->timerId(); });
+    if (place == agenda_.end())
+        return;
+    auto& m = *place->minuteur;
+    killTimer(place->numero);
+    agenda_.erase(place);
+    m.tic();
+}
+
+void boucle_qt::termine(int statut) { fin(statut); }
+
+} // namespace plateforme::qt

@@ -1,0 +1,179 @@
+#include "machines/qt/fabrique.h"
+
+#include "machines/qt/accord.h"
+#include "machines/qt/images.h"
+#include "machines/qt/mesures.h"
+#include "machines/qt/pieces.h"
+#include "machines/qt/surface.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QSlider>
+#include <algorithm>
+
+namespace plateforme::qt {
+
+namespace {
+
+using namespace shell;
+
+template <class C> C& en(controle& c) { return static_cast<C&>(c); }
+
+Qt::Orientation sens(const controle& c) {
+    const auto p = c.regarde_place();
+    return p.l >= p.h ? Qt::Horizontal : Qt::Vertical;
+}
+
+QWidget* texte(champ_texte& c, QWidget* parent) {
+    if (c.a(multiligne)) {
+        auto* w = new QPlainTextEdit{parent};
+        w->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+        w->setTabChangesFocus(true);
+        w->setContextMenuPolicy(Qt::NoContextMenu); // its entries would not be in French
+        QFont police{QStringList{"Arial", w->font().family()}};
+        police.setPixelSize(w->font().pixelSize());
+        w->setFont(police);
+        QObject::connect(w, &QPlainTextEdit::textChanged, w,
+                         [w, &c] { c.saisit(lu(lignes_de(*w).replace("\n", "\r\n"))); });
+        return w;
+    }
+    auto* w = new QLineEdit{parent};
+    w->setContextMenuPolicy(Qt::NoContextMenu);
+    w->setAlignment((c.a(centre) ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignVCenter);
+    QObject::connect(w, &QLineEdit::textEdited, w, [&c](const QString& t) { c.saisit(lu(t)); });
+    return w;
+}
+
+QWidget* pousse(champ_bouton& c, QWidget* parent) {
+    auto* w = new bouton{c, parent};
+    if (*c.comme_dessine().image) {
+        constexpr int cote = 32; // of the drawings, with room for the button's edge
+        const auto place = rectangle(c.regarde_place());
+        const int n = std::min({cote, place.width() - 8, place.height() - 8});
+        w->setIcon(face(c.comme_dessine().image));
+        w->setIconSize({n, n});
+    }
+    return w;
+}
+
+QWidget* case_a_cocher(champ_coche& c, QWidget* parent) {
+    auto* w = new QCheckBox{parent};
+    QObject::connect(w, &QCheckBox::clicked, w, [w, &c](bool oui) {
+        c.regle(oui);
+        accorde(c, w, aspect::coche);
+    });
+    return w;
+}
+
+QWidget* option(champ_option& c, QWidget* parent) {
+    auto* w = new QRadioButton{parent};
+    QObject::connect(w, &QRadioButton::clicked, w, [w, &c] {
+        c.clic();
+        accorde(c, w, aspect::coche);
+    });
+    return w;
+}
+
+QWidget* deroulante(champ_deroulante& c, QWidget* parent) {
+    auto* w = new QComboBox{parent};
+    QObject::connect(w, &QComboBox::activated, w, [w, &c](int k) {
+        c.choisit(k);
+        accorde(c, w, aspect::position);
+    });
+    return w;
+}
+
+template <class W> QWidget* barre(champ_barre& c, QWidget* parent) {
+    const auto& d = c.comme_dessine();
+    auto* w = new W{sens(c), parent};
+    w->setRange(d.min, d.max);
+    w->setSingleStep(d.petit);
+    w->setPageStep(d.grand);
+    w->setInvertedControls(false); // else the right arrow moves a scroll bar to the left
+    w->setFocusPolicy(Qt::StrongFocus);
+    if constexpr (std::is_same_v<W, QSlider>) {
+        w->setTickPosition(QSlider::TicksBelow);
+        w->setTickInterval(1);
+    }
+    QObject::connect(w, &W::valueChanged, w, [w, &c](int n) {
+        c.regle(n);
+        accorde(c, w, aspect::valeur);
+    });
+    return w;
+}
+
+QWidget* progression(QWidget* parent) {
+    constexpr int finesse = 1000;
+    auto* w = new QProgressBar{parent};
+    w->setRange(0, finesse);
+    w->setTextVisible(false);
+    return w;
+}
+
+QWidget* piece(controle& c, QWidget* parent) {
+    switch (c.espece()) {
+    case genre::texte:
+        return texte(en<champ_texte>(c), parent);
+    case genre::etiquette:
+        return new etiquette{en<champ_etiquette>(c), parent};
+    case genre::liste:
+        return new liste{en<champ_liste>(c), parent};
+    case genre::deroulante:
+        return deroulante(en<champ_deroulante>(c), parent);
+    case genre::bouton:
+        return pousse(en<champ_bouton>(c), parent);
+    case genre::coche:
+        return case_a_cocher(en<champ_coche>(c), parent);
+    case genre::option:
+        return option(en<champ_option>(c), parent);
+    case genre::barre:
+        return barre<QScrollBar>(en<champ_barre>(c), parent);
+    case genre::curseur:
+        return barre<QSlider>(en<champ_barre>(c), parent);
+    case genre::hautbas:
+        return new hautbas{en<champ_hautbas>(c), parent};
+    case genre::progression:
+        return progression(parent);
+    case genre::image:
+        return new tableau_image{en<champ_image>(c), parent};
+    case genre::cadre:
+        return new QGroupBox{parent};
+    case genre::surface:
+        return new surface{en<champ_surface>(c), parent};
+    case genre::minuteur:
+    case genre::entree:
+    case genre::barre_outils:
+    case genre::outil:
+    case genre::barre_etat:
+        return nullptr;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+QWidget* fabrique(controle& c, QWidget* parent) {
+    auto* w = piece(c, parent);
+    if (!w)
+        return nullptr;
+    w->setObjectName(affiche(c.nom()));
+    w->setAccessibleName(w->objectName());
+    if (c.a(gras)) {
+        auto police = w->font();
+        police.setBold(true);
+        w->setFont(police);
+    }
+    if (c.a(traverse))
+        w->setAttribute(Qt::WA_TransparentForMouseEvents);
+    if (c.a(fond))
+        w->lower();
+    return w;
+}
+
+} // namespace plateforme::qt

@@ -1,0 +1,195 @@
+#include "machines/qt/pieces.h"
+
+#include "machines/qt/mesures.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyleOptionButton>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace plateforme::qt {
+
+// ---- button
+
+// A stop button acts at the press, the others at a release over the button: the store knows which.
+bouton::bouton(shell::champ_bouton& c, QWidget* parent) : QPushButton(parent) {
+    connect(this, &QPushButton::pressed, this, [&c] { c.appuie(); });
+    connect(this, &QPushButton::clicked, this, [&c] { c.relache(); });
+}
+
+void bouton::montre_enfonce(bool oui) {
+    if (std::exchange(enfonce_, oui) != oui)
+        update();
+}
+
+void bouton::initStyleOption(QStyleOptionButton* option) const {
+    QPushButton::initStyleOption(option);
+    if (enfonce_) {
+        option->state |= QStyle::State_Sunken;
+        option->state &= ~QStyle::State_Raised;
+    }
+}
+
+// Escape belongs to the panel, also while this button is held down.
+void bouton::keyPressEvent(QKeyEvent* e) {
+    if (e->key() == Qt::Key_Escape)
+        e->ignore();
+    else
+        QPushButton::keyPressEvent(e);
+}
+
+// ---- label
+
+namespace {
+
+// A label breaks between words only; in a word too long for a line, such as a path, it may break anywhere.
+QString secable(const QString& texte) {
+    constexpr int mot_long = 24;
+    constexpr QChar coupure{0x200B}; // takes no room
+    auto mots = texte.split(' ');
+    for (auto& mot : mots) {
+        if (mot.size() < mot_long)
+            continue;
+        QString coupe;
+        for (const auto c : mot) {
+            coupe += c;
+            if (!c.isHighSurrogate())
+                coupe += coupure;
+        }
+        mot = coupe;
+    }
+    return mots.join(' ');
+}
+
+} // namespace
+
+etiquette::etiquette(shell::champ_etiquette& c, QWidget* parent) : QLabel(parent), champ_(c) {
+    setTextFormat(Qt::PlainText);
+    setWordWrap(!c.a(shell::symbole));
+    if (c.a(shell::symbole))
+        setCursor(Qt::PointingHandCursor);
+    if (c.a(shell::aplat)) {
+        setAutoFillBackground(true);
+        setBackgroundRole(QPalette::Mid);
+    }
+}
+
+void etiquette::ecrit(const std::string& texte) {
+    if (!champ_.a(shell::symbole))
+        setText(secable(affiche(texte)));
+    else
+        setText(texte == "7" ? "◀◀" : texte == "8" ? "▶▶" : affiche(texte));
+}
+
+void etiquette::mousePressEvent(QMouseEvent* e) {
+    if (e->button() == Qt::LeftButton)
+        champ_.appuie();
+}
+
+void etiquette::mouseReleaseEvent(QMouseEvent* e) {
+    if (e->button() == Qt::LeftButton && rect().contains(e->position().toPoint()))
+        champ_.relache();
+}
+
+void etiquette::resizeEvent(QResizeEvent* e) {
+    aligne();
+    QLabel::resizeEvent(e);
+}
+
+// One line stands in the middle of its place, as in the field beside it; a text of several at the top.
+void etiquette::aligne() {
+    const bool une_ligne = height() < 2 * fontMetrics().height() || champ_.a(shell::symbole);
+    setAlignment((champ_.a(shell::centre) ? Qt::AlignHCenter : Qt::AlignLeft) |
+                 (une_ligne ? Qt::AlignVCenter : Qt::AlignTop));
+}
+
+// ---- list
+
+liste::liste(shell::champ_liste& c, QWidget* parent) : QListWidget(parent), champ_(c) {
+    setUniformItemSizes(true);
+    setEditTriggers(NoEditTriggers);
+}
+
+void liste::mousePressEvent(QMouseEvent* e) {
+    const int ligne = indexAt(e->position().toPoint()).row();
+    if (e->button() == Qt::RightButton) {
+        champ_.droit(ligne);
+        return;
+    }
+    QListWidget::mousePressEvent(e);
+    presse_ = e->button() == Qt::LeftButton && ligne >= 0;
+}
+
+void liste::mouseReleaseEvent(QMouseEvent* e) {
+    QListWidget::mouseReleaseEvent(e);
+    if (e->button() == Qt::LeftButton && std::exchange(presse_, false) && currentRow() >= 0)
+        champ_.choisit(currentRow());
+}
+
+void liste::mouseDoubleClickEvent(QMouseEvent* e) {
+    const int ligne = indexAt(e->position().toPoint()).row();
+    presse_ = false;
+    if (e->button() == Qt::LeftButton && ligne >= 0)
+        champ_.double_clic(ligne);
+}
+
+void liste::keyPressEvent(QKeyEvent* e) {
+    const int avant = currentRow();
+    QListWidget::keyPressEvent(e);
+    if (currentRow() != avant && currentRow() >= 0)
+        champ_.choisit(currentRow());
+}
+
+// ---- picture
+
+tableau_image::tableau_image(shell::champ_image& c, QWidget* parent) : QWidget(parent), champ_(c) {}
+
+void tableau_image::montre(const QPixmap& image) {
+    image_ = image;
+    reduite_ = {};
+    update();
+}
+
+void tableau_image::paintEvent(QPaintEvent*) {
+    if (image_.isNull())
+        return;
+    const QSize voulue = (QSizeF{size()} * devicePixelRatioF()).toSize();
+    if (reduite_.size() != voulue)
+        reduite_ = image_.scaled(voulue, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    QPainter{this}.drawPixmap(rect(), reduite_);
+}
+
+void tableau_image::mousePressEvent(QMouseEvent* e) {
+    if (e->button() == Qt::LeftButton)
+        champ_.appuie();
+}
+
+// The press took the mouse, so its release is told wherever it falls.
+void tableau_image::mouseReleaseEvent(QMouseEvent* e) {
+    if (e->button() == Qt::LeftButton)
+        champ_.relache();
+}
+
+// ---- up-down
+
+hautbas::hautbas(shell::champ_hautbas& c, QWidget* parent) : QWidget(parent) {
+    auto* pile = new QVBoxLayout{this};
+    pile->setContentsMargins(0, 0, 0, 0);
+    pile->setSpacing(0);
+    const auto fleche = [&](Qt::ArrowType sens, const char* suffixe) {
+        auto* b = new QToolButton{this};
+        b->setArrowType(sens);
+        b->setAutoRepeat(true);
+        b->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+        b->setObjectName(affiche(c.nom()) + suffixe);
+        b->setAccessibleName(b->objectName());
+        pile->addWidget(b);
+        return b;
+    };
+    connect(fleche(Qt::UpArrow, ".plus"), &QToolButton::clicked, this, [&c] { c.plus(); });
+    connect(fleche(Qt::DownArrow, ".moins"), &QToolButton::clicked, this, [&c] { c.moins(); });
+}
+
+} // namespace plateforme::qt

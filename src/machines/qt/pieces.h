@@ -1,0 +1,83 @@
+// The widgets that Qt's own do not give. Each knows the control it shows and sends it the user's acts.
+#pragma once
+
+#include "store/controles.h"
+
+#include <QLabel>
+#include <QListWidget>
+#include <QPixmap>
+#include <QPushButton>
+#include <QWidget>
+
+namespace plateforme::qt {
+
+/// A button that looks pressed as long as its control is, whatever the mouse and the focus do.
+class bouton final : public QPushButton {
+  public:
+    bouton(shell::champ_bouton& c, QWidget* parent);
+    void montre_enfonce(bool oui);
+
+  protected:
+    void initStyleOption(QStyleOptionButton* option) const override;
+    void keyPressEvent(QKeyEvent* e) override;
+
+  private:
+    bool enfonce_ = false;
+};
+
+/// A label that can be clicked. A text in the symbol font is drawn as the arrows it stands for.
+class etiquette final : public QLabel {
+  public:
+    etiquette(shell::champ_etiquette& c, QWidget* parent);
+    void ecrit(const std::string& texte);
+
+  protected:
+    void mousePressEvent(QMouseEvent* e) override;
+    void mouseReleaseEvent(QMouseEvent* e) override;
+    void resizeEvent(QResizeEvent* e) override;
+
+  private:
+    void aligne();
+    shell::champ_etiquette& champ_;
+};
+
+/// A list: a click, a double click, a right click and the arrow keys are the user's acts.
+class liste final : public QListWidget {
+  public:
+    liste(shell::champ_liste& c, QWidget* parent);
+
+  protected:
+    void mousePressEvent(QMouseEvent* e) override;
+    void mouseReleaseEvent(QMouseEvent* e) override;
+    void mouseDoubleClickEvent(QMouseEvent* e) override;
+    void keyPressEvent(QKeyEvent* e) override;
+
+  private:
+    shell::champ_liste& champ_;
+    bool presse_ = false; // the left button went down on it and no double click came of it
+};
+
+/// A picture scaled to its place at the screen's own pixels; a drawn button too.
+class tableau_image final : public QWidget {
+  public:
+    tableau_image(shell::champ_image& c, QWidget* parent);
+    void montre(const QPixmap& image);
+
+  protected:
+    void paintEvent(QPaintEvent* e) override;
+    void mousePressEvent(QMouseEvent* e) override;
+    void mouseReleaseEvent(QMouseEvent* e) override;
+
+  private:
+    shell::champ_image& champ_;
+    QPixmap image_;
+    QPixmap reduite_; // to the screen's pixels of the place it has
+};
+
+/// Two arrow buttons, one above the other.
+class hautbas final : public QWidget {
+  public:
+    hautbas(shell::champ_hautbas& c, QWidget* parent);
+};
+
+} // namespace plateforme::qt

@@ -1,0 +1,95 @@
+#include "machines/qt/style.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QPainter>
+#include <QProxyStyle>
+#include <QStyleFactory>
+
+namespace plateforme::qt {
+
+namespace {
+
+// What a toolbar too narrow for its tools shows at its end.
+QIcon chevrons() {
+    QPixmap p{16, 16};
+    p.fill(Qt::transparent);
+    QPainter peintre{&p};
+    peintre.setRenderHint(QPainter::Antialiasing);
+    peintre.setPen({Qt::black, 2});
+    for (const int x : {3, 8})
+        peintre.drawPolyline(QPolygon{{{x, 3}, {x + 5, 8}, {x, 13}}});
+    return p;
+}
+
+// Fusion without its animations, since a repaint while a motor runs is a late pulse, with plain buttons in
+// its boxes, and without the context menu of scroll bars, which is not in French.
+class style_calme final : public QProxyStyle {
+  public:
+    style_calme() : QProxyStyle(QStyleFactory::create("Fusion")) {}
+    // Every toolbar asks for it, and Qt loads all its picture plugins to read its own.
+    QIcon standardIcon(StandardPixmap lequel, const QStyleOption* option,
+                       const QWidget* widget) const override {
+        if (lequel == SP_ToolBarHorizontalExtensionButton || lequel == SP_ToolBarVerticalExtensionButton)
+            return chevrons();
+        return QProxyStyle::standardIcon(lequel, option, widget);
+    }
+
+    int styleHint(StyleHint indice, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* retour) const override {
+        switch (indice) {
+        case SH_Widget_Animate:
+        case SH_Widget_Animation_Duration:
+        case SH_DialogButtonBox_ButtonsHaveIcons:
+        case SH_ScrollBar_ContextMenu:
+            return 0;
+        default:
+            return QProxyStyle::styleHint(indice, option, widget, retour);
+        }
+    }
+    int pixelMetric(PixelMetric mesure, const QStyleOption* option, const QWidget* widget) const override {
+        // A pixel less than the style's own: the panels' outer sizes leave their frames no more.
+        return mesure == PM_MdiSubWindowFrameWidth ? 3 : QProxyStyle::pixelMetric(mesure, option, widget);
+    }
+};
+
+QPalette couleurs() {
+    QPalette p{QColor{0xEF, 0xEF, 0xEC}};
+    p.setColor(QPalette::Window, QColor{0xEF, 0xEF, 0xEC});
+    p.setColor(QPalette::Base, Qt::white);
+    p.setColor(QPalette::Text, Qt::black);
+    p.setColor(QPalette::WindowText, Qt::black);
+    p.setColor(QPalette::ButtonText, Qt::black);
+    p.setColor(QPalette::Highlight, QColor{0x2F, 0x6D, 0xB5});
+    p.setColor(QPalette::HighlightedText, Qt::white);
+    for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+        p.setColor(QPalette::Disabled, role, QColor{0x8C, 0x8C, 0x8C});
+    return p;
+}
+
+} // namespace
+
+void prepare() {
+    // Qt's own event dispatcher takes half the time of GLib's for a pass with nothing to do.
+    qputenv("QT_NO_GLIB", "1");
+    // Nothing here draws by OpenGL: its libraries would only lengthen the start.
+    qputenv("QT_XCB_GL_INTEGRATION", "none");
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    QGuiApplication::setDesktopSettingsAware(false);
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+}
+
+void habille() {
+    QApplication::setStyle(new style_calme);
+    QApplication::setPalette(couleurs());
+    QFont police{"DejaVu Sans"};
+    police.setPixelSize(hauteur_police);
+    QApplication::setFont(police);
+    QApplication::setQuitOnLastWindowClosed(false);
+    for (const auto effet : {Qt::UI_AnimateMenu, Qt::UI_FadeMenu, Qt::UI_AnimateCombo, Qt::UI_AnimateTooltip,
+                             Qt::UI_FadeTooltip, Qt::UI_AnimateToolBox})
+        QApplication::setEffectEnabled(effet, false);
+}
+
+} // namespace plateforme::qt

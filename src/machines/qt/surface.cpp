@@ -1,0 +1,90 @@
+#include "machines/qt/surface.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <cmath>
+
+namespace plateforme::qt {
+
+namespace {
+
+constexpr int touche_sans_code = 255;
+
+// The code of a key. Only letters, digits and the blank have their character's: a sign such as the
+// apostrophe must not be taken for the arrow whose code its character is.
+int code_touche(const QKeyEvent& e) {
+    const int cle = e.key();
+    if (e.modifiers().testFlag(Qt::KeypadModifier) && cle >= Qt::Key_0 && cle <= Qt::Key_9)
+        return 96 + cle - Qt::Key_0;
+    if ((cle >= Qt::Key_A && cle <= Qt::Key_Z) || (cle >= Qt::Key_0 && cle <= Qt::Key_9) ||
+        cle == Qt::Key_Space)
+        return cle;
+    if (cle >= Qt::Key_F1 && cle <= Qt::Key_F24)
+        return 112 + cle - Qt::Key_F1;
+    static constexpr std::pair<int, int> codes[] = {
+        {Qt::Key_Backspace, 8}, {Qt::Key_Tab, 9},       {Qt::Key_Backtab, 9},  {Qt::Key_Return, 13},
+        {Qt::Key_Enter, 13},    {Qt::Key_Shift, 16},    {Qt::Key_Control, 17}, {Qt::Key_Alt, 18},
+        {Qt::Key_Pause, 19},    {Qt::Key_CapsLock, 20}, {Qt::Key_Escape, 27},  {Qt::Key_PageUp, 33},
+        {Qt::Key_PageDown, 34}, {Qt::Key_End, 35},      {Qt::Key_Home, 36},    {Qt::Key_Left, 37},
+        {Qt::Key_Up, 38},       {Qt::Key_Right, 39},    {Qt::Key_Down, 40},    {Qt::Key_Insert, 45},
+        {Qt::Key_Delete, 46},
+    };
+    for (const auto& [touche, code] : codes)
+        if (touche == cle)
+            return code;
+    return touche_sans_code;
+}
+
+} // namespace
+
+surface::surface(shell::champ_surface& c, QWidget* parent) : QWidget(parent), champ_(c) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+QSize surface::taille_voulue() const {
+    const double d = devicePixelRatioF();
+    return {static_cast<int>(std::ceil(width() * d)), static_cast<int>(std::ceil(height() * d))};
+}
+
+void surface::peint() {
+    if (image_.size() != taille_voulue())
+        image_ = QImage{taille_voulue(), QImage::Format_RGB32};
+    peintre_.peint(image_, champ_.regarde_toile(), devicePixelRatioF());
+}
+
+void surface::montre() {
+    if (!isVisible()) {
+        image_ = {}; // painted when it comes on screen
+        return;
+    }
+    peint();
+    repaint();
+}
+
+// In the screen's own pixels: nothing is left to scale, and a window that stands between two is rounded to
+// one.
+void surface::paintEvent(QPaintEvent*) {
+    if (image_.size() != taille_voulue())
+        peint();
+    QPainter p{this};
+    const double d = devicePixelRatioF();
+    p.scale(1 / d, 1 / d);
+    p.drawImage(0, 0, image_);
+}
+
+void surface::mousePressEvent(QMouseEvent* e) {
+    champ_.presse({static_cast<int>(e->button()),
+                   static_cast<float>(e->position().x() * shell::twips_par_pixel),
+                   static_cast<float>(e->position().y() * shell::twips_par_pixel)});
+}
+
+void surface::keyPressEvent(QKeyEvent* e) {
+    champ_.frappe({code_touche(*e), e->modifiers().testFlag(Qt::ShiftModifier),
+                   e->modifiers().testFlag(Qt::ControlModifier)});
+    if (e->key() == Qt::Key_Escape)
+        e->ignore(); // the panel's stop answers to it too
+}
+
+} // namespace plateforme::qt

@@ -1,0 +1,35 @@
+// The widget of a drawing surface: it shows what the store holds, keeps that as an image, and hands on mouse
+// and keys.
+#pragma once
+
+#include "machines/qt/peintre.h"
+#include "store/controles.h"
+
+#include <QImage>
+#include <QWidget>
+
+namespace plateforme::qt {
+
+class surface final : public QWidget {
+  public:
+    surface(shell::champ_surface& c, QWidget* parent);
+
+    /// Paints the store's drawing, on screen before it returns.
+    void montre();
+
+  protected:
+    void paintEvent(QPaintEvent* e) override;
+    void mousePressEvent(QMouseEvent* e) override;
+    void keyPressEvent(QKeyEvent* e) override;
+    bool focusNextPrevChild(bool) override { return false; } // the tab key is a key as the others
+
+  private:
+    QSize taille_voulue() const; // in the screen's pixels
+    void peint();
+
+    shell::champ_surface& champ_;
+    peintre peintre_;
+    QImage image_;
+};
+
+} // namespace plateforme::qt

@@ -1,0 +1,68 @@
+#include "machines/qt/vue_qt.h"
+
+#include "machines/qt/accord.h"
+#include "machines/qt/images.h"
+#include "machines/qt/menus.h"
+#include "machines/qt/mesures.h"
+#include "store/controles.h"
+
+#include <QMessageBox>
+
+namespace plateforme::qt {
+
+fenetre* vue_qt::trouve(const shell::panneau& p) const {
+    for (const auto& f : fenetres_)
+        if (f->fiche == &p)
+            return f.get();
+    return nullptr;
+}
+
+void vue_qt::panneau_change(const shell::panneau& p) {
+    auto* f = trouve(p);
+    if (!f) {
+        if (!p.est_visible())
+            return;
+        // Panels are declared as variables; the store hands them out for looking only.
+        auto& fiche = const_cast<shell::panneau&>(p);
+        f = fenetres_.emplace_back(cree_fenetre(fiche, zone_)).get();
+        if (p.options().principal)
+            zone_ = f->zone;
+    }
+    accorde_fenetre(*f);
+}
+
+void vue_qt::eleve(const shell::panneau& p) {
+    if (auto* f = trouve(p))
+        avance(*f);
+}
+
+void vue_qt::repeint(const shell::panneau& p) {
+    if (auto* f = trouve(p))
+        peint(*f);
+}
+
+// A hidden window costs nothing: it is brought up to date when it comes on screen.
+void vue_qt::controle_change(const shell::controle& c, aspect a) {
+    const auto* f = trouve(c.fiche());
+    if (!f || f->cadre->isHidden())
+        return;
+    if (auto* piece = f->pieces[static_cast<std::size_t>(c.rang())])
+        accorde(c, piece, a);
+}
+
+shell::entree* vue_qt::ouvre_menu(shell::entree& racine, const shell::entree* defaut) {
+    return ouvre_surgissant(racine, defaut);
+}
+
+void vue_qt::message(const std::string& texte) {
+    QMessageBox boite{QMessageBox::NoIcon, "Velmoria", affiche(texte), QMessageBox::Ok, principale()};
+    boite.setObjectName("message");
+    boite.setTextFormat(Qt::PlainText);
+    boite.exec();
+}
+
+image vue_qt::charge_image(const std::filesystem::path& chemin) { return charge(chemin); }
+
+QWidget* vue_qt::principale() const { return zone_ ? zone_->window() : nullptr; }
+
+} // namespace plateforme::qt

@@ -1,0 +1,28 @@
+// The panels in Qt's widgets. A panel's window is made when it is first shown and kept for the whole run.
+#pragma once
+
+#include "machines/qt/fenetres.h"
+#include "store/vue.h"
+
+namespace plateforme::qt {
+
+class vue_qt final : public vue {
+  public:
+    void panneau_change(const shell::panneau& p) override;
+    void eleve(const shell::panneau& p) override;
+    void repeint(const shell::panneau& p) override;
+    void controle_change(const shell::controle& c, aspect a) override;
+    shell::entree* ouvre_menu(shell::entree& racine, const shell::entree* defaut) override;
+    void message(const std::string& texte) override;
+    image charge_image(const std::filesystem::path& chemin) override;
+
+    /// The main frame, if it has been shown.
+    QWidget* principale() const;
+
+  private:
+    fenetre* trouve(const shell::panneau& p) const;
+    std::vector<std::unique_ptr<fenetre>> fenetres_;
+    QMdiArea* zone_ = nullptr;
+};
+
+} // namespace plateforme::qt

@@ -1,0 +1,15 @@
+// The size of a picture from the first bytes of its file, for a machine without a screen.
+#pragma once
+
+#include "seam/image.h"
+
+#include <optional>
+#include <string_view>
+
+namespace plateforme {
+
+/// Size in pixels and density of a GIF or JPEG file; none if it is neither, or cut short. 96 pixels to the
+/// inch where the file tells no density.
+std::optional<image> lit_entete(std::string_view octets);
+
+} // namespace plateforme

@@ -1,0 +1,21 @@
+// The full program on the bench: nothing needs to be connected.
+#include "machines/linux/attente_precise.h"
+#include "machines/linux/horloge_systeme.h"
+#include "machines/qt/bench/composition.h"
+#include "machines/qt/bench/fenetre_banc.h"
+#include "machines/qt/fin.h"
+#include "sky/heure.h"
+
+#include <optional>
+
+int main(int argc, char** argv) {
+    banc::horloge_banc horloge{plateforme::temps_universel,
+                               [] { return int{general::decalageheure.valeur()}; }};
+    plateforme::attente_precise attente;
+    banc::etabli etabli{plateforme::horloge_monotone};
+    std::optional<banc::fenetre_banc> fenetre; // widgets need the application object first
+    plateforme::qt::a_la_fin([&etabli] { etabli.cesse_d_enregistrer(); });
+    auto composition = banc::sur_le_banc(etabli, horloge, attente);
+    composition.ensuite = [&] { fenetre.emplace(etabli, horloge).show(); };
+    return plateforme::qt::lance(argc, argv, std::move(composition));
+}

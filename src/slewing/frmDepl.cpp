@@ -1,0 +1,33 @@
+#include "slewing/frmDepl.h"
+
+#include "fields/frmDepl_champs.h"
+#include "slewing/etat_pointage.h"
+
+namespace frmDepl {
+
+namespace {
+
+// The captions follow the panel that opened the chart last, not the slew that runs.
+void charge() {
+    ProgressBaraz.valeur(0);
+    ProgressBaralt.valeur(0);
+    const bool altaz = static_cast<bool>(pointing::panneaualtaz);
+    Lblaz.legende(altaz ? "Azimut" : "A.D");
+    lblalt.legende(altaz ? "Altitude" : "Déc.");
+}
+
+// The loops see the flag before their next pulse; without a way left, no further pass begins.
+void arrete() {
+    pointing::stoppointage = true;
+    pointing::distaz = 0;
+    pointing::distalt = 0;
+}
+
+} // namespace
+
+void branche() {
+    fiche.au_chargement(charge);
+    cmstoppointage.au_clic(arrete);
+}
+
+} // namespace frmDepl

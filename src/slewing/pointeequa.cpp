@@ -1,0 +1,79 @@
+#include "slewing/pointeequa.h"
+
+#include "base/nombre.h"
+#include "base/valeurs.h"
+#include "drive/cmd_moteur.h"
+#include "fields/frmDepl_champs.h"
+#include "fields/frmequapointage_champs.h"
+#include "seam/plateforme.h"
+#include "slewing/etat_pointage.h"
+#include "slewing/impulsions.h"
+
+#include <cmath>
+
+namespace pointing {
+
+using base::divise;
+using base::entier16;
+using base::entier32;
+using cmd_moteur::classevitalt;
+using cmd_moteur::classevitaz;
+
+namespace {
+
+struct mecanique {
+    double pasad, pasdec; // motor steps a turn
+    double Rad, Rdec;     // reduction ratios
+};
+
+mecanique lit_mecanique() {
+    valeurs::lecteur f{plateforme::fichier_donnees("config_equa.ini")};
+    const double pasad = f.nombre();
+    const double pasdec = f.nombre();
+    const double Rad = f.nombre();
+    return {pasad, pasdec, Rad, f.nombre()};
+}
+
+double compte(double chemin, double unite) {
+    return base::fini(std::abs(std::floor(divise(chemin, unite, "nombre d'impulsions"))), "pointage");
+}
+
+void dirige(int commande) {
+    cmd_moteur::cmdsens = commande;
+    cmd_moteur::fixesensdirect();
+    cmd_moteur::tempoequa();
+}
+
+} // namespace
+
+void pointeequa() {
+    const auto m = lit_mecanique();
+    const entier16 az_avant = classevitaz;
+    const entier16 alt_avant = classevitalt;
+    classevitaz = entier16{frmequapointage::reglages.cbpointaz.position()};
+    classevitalt = entier16{frmequapointage::reglages.cbpointalt.position()};
+
+    // Tenths of a minute of time a pulse: a turn is 360 degrees of 600, and 15 of arc to one of time. Only
+    // this axis has its half steps rounded to a whole number.
+    const double tour_ad = m.Rad * entier32{2 * m.pasad}.reel();
+    const double unite_ad = divise(360, tour_ad, "config_equa.ini, A.D") * 600 / 15;
+    const double da = ciblead.reel() - reticulead;
+    const double nbad = compte(da, unite_ad);
+    dirige((da < 0) == static_cast<bool>(invpointad) ? 2 : 1);
+    frmDepl::fiche.montre();
+    envoie(nbad, cmd_moteur::bitsens, cmd_moteur::bitpas, frmDepl::ProgressBaraz);
+
+    const double tour_dec = m.Rdec * (2 * m.pasdec);
+    const double unite_dec = divise(360, tour_dec, "config_equa.ini, Déc.") * 600;
+    const double dd = cibledec.reel() - reticuledec;
+    const double nbdec = compte(dd, unite_dec);
+    dirige((dd < 0) == static_cast<bool>(invpointdec) ? 3 : 4);
+    envoie(nbdec, cmd_moteur::bitsens, cmd_moteur::bitpas, frmDepl::ProgressBaralt);
+
+    classevitaz = az_avant;
+    classevitalt = alt_avant;
+    frmDepl::fiche.decharge();
+    stoppointage = false;
+}
+
+} // namespace pointing

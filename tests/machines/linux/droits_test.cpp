@@ -1,0 +1,124 @@
+#include "machines/linux/droits.h"
+
+#include <csignal>
+#include <cstdio>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <linux/capability.h>
+#include <sched.h>
+#include <string>
+#include <sys/prctl.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace plateforme;
+
+namespace {
+
+/// Runs `f` in a child; its result is the child's exit status.
+template <class F> pid_t enfante(F&& f) {
+    const pid_t pid = fork();
+    if (pid == 0)
+        _exit(f());
+    return pid;
+}
+
+/// Waits for the child; its exit status, or 1000 plus the signal that ended it.
+int issue(pid_t pid) {
+    int etat = 0;
+    EXPECT_EQ(waitpid(pid, &etat, 0), pid);
+    return WIFEXITED(etat) ? WEXITSTATUS(etat) : 1000 + WTERMSIG(etat);
+}
+
+/// A capability set of this process in hexadecimal, as the kernel tells it: "CapEff:", "CapPrm:"...
+std::string ensemble(const std::string& nom) {
+    std::ifstream etat{"/proc/self/status"};
+    std::string mot;
+    while (etat >> mot)
+        if (mot == nom) {
+            etat >> mot;
+            return mot;
+        }
+    return "introuvable";
+}
+
+/// Puts the raw port's capability into the inheritable and the ambient set too.
+bool rend_transmissibles() {
+    __user_cap_header_struct entete{_LINUX_CAPABILITY_VERSION_3, 0};
+    __user_cap_data_struct droits[_LINUX_CAPABILITY_U32S_3]{};
+    if (syscall(SYS_capget, &entete, droits) != 0)
+        return false;
+    droits[0].inheritable |= 1U << CAP_SYS_RAWIO;
+    return syscall(SYS_capset, &entete, droits) == 0 &&
+           prctl(PR_CAP_AMBIENT, PR_CAP_AMBIENT_RAISE, CAP_SYS_RAWIO, 0, 0) == 0;
+}
+
+bool vide(const std::string& nom) { return ensemble(nom) == std::string(16, '0'); }
+
+} // namespace
+
+TEST(Verrou, OneHolderPerNameAndFreeAtItsDeath) {
+    const std::string nom = "velmoria-essai-" + std::to_string(getpid());
+    int tuyau[2];
+    ASSERT_EQ(pipe(tuyau), 0);
+    const pid_t tenant = enfante([&] {
+        const char reponse = verrouille(nom) ? 'o' : 'n';
+        if (write(tuyau[1], &reponse, 1) != 1)
+            return 1;
+        pause();
+        return 1;
+    });
+    char reponse = 0;
+    ASSERT_EQ(read(tuyau[0], &reponse, 1), 1);
+    EXPECT_EQ(reponse, 'o');
+    EXPECT_FALSE(verrouille(nom));
+    EXPECT_EQ(issue(enfante([&] { return verrouille(nom) ? 1 : 0; })), 0);
+    EXPECT_TRUE(verrouille(nom + "-autre")) << "another name is another lock";
+    EXPECT_FALSE(verrouille(std::string(108, 'x'))) << "a name too long";
+
+    // Killed without a chance to tidy up, the holder leaves no lock behind.
+    kill(tenant, SIGKILL);
+    EXPECT_EQ(issue(tenant), 1000 + SIGKILL);
+    EXPECT_TRUE(verrouille(nom));
+    EXPECT_FALSE(verrouille(nom)) << "the lock must outlive the call that took it";
+    close(tuyau[0]);
+    close(tuyau[1]);
+}
+
+TEST(Verrou, HoldsAgainstAnotherUserToo) {
+    if (geteuid() != 0)
+        GTEST_SKIP() << "only root can become someone else";
+    const std::string nom = "velmoria-essai-" + std::to_string(getpid());
+    ASSERT_TRUE(verrouille(nom));
+    EXPECT_EQ(issue(enfante([&] {
+                  if (setuid(65534) != 0)
+                      return 2;
+                  return verrouille(nom) ? 1 : 0;
+              })),
+              0);
+}
+
+TEST(Droits, NoCapabilityIsLeftAndTheUserIsTheSame) {
+    enum { bien, rien_a_perdre, refus, reste, autre_utilisateur };
+    const int resultat = issue(enfante([]() -> int {
+        // An ordinary user has nothing to give up, except in a user namespace of his own.
+        if (vide("CapEff:") && unshare(CLONE_NEWUSER) != 0)
+            return rien_a_perdre;
+        if (!rend_transmissibles() || vide("CapEff:") || vide("CapInh:") || vide("CapAmb:"))
+            return rien_a_perdre;
+        const auto utilisateur = geteuid();
+        // The second time there is nothing left, not even the right to shrink the bounding set.
+        if (!abandonne_droits() || !abandonne_droits())
+            return refus;
+        for (const char* nom : {"CapEff:", "CapPrm:", "CapInh:", "CapAmb:", "CapBnd:"})
+            if (!vide(nom)) {
+                std::fprintf(stderr, "%s %s\n", nom, ensemble(nom).c_str());
+                return reste;
+            }
+        return geteuid() == utilisateur ? bien : autre_utilisateur;
+    }));
+    if (resultat == rien_a_perdre)
+        GTEST_SKIP() << "no capability to give up, and no user namespace to get one";
+    EXPECT_EQ(resultat, bien);
+}

@@ -1,0 +1,274 @@
+#include "essai.h"
+#include "store/controles.h"
+
+namespace essai {
+
+using namespace shell;
+
+inline constinit panneau fiche{"essai", "Essai", 3000, 2000};
+inline constinit champ_cadre cadre{fiche, "cadre", {}, {.legende = "Cadre"}};
+inline constinit champ_texte texte{fiche, "texte", {1, 2, 3, 4}, {.legende = "12abc", .cadre = &cadre}};
+inline constinit champ_bouton bouton{fiche, "bouton", {}, {.cadre = &cadre}};
+inline constinit champ_bouton stop{fiche, "stop", {}, {.traits = arret | echap}};
+inline constinit champ_liste liste_objets{fiche, "liste", {}};
+inline constinit champ_deroulante annee{fiche, "annee", {}, {.traits = sans_vide}};
+inline constinit champ_barre barre{fiche, "barre", {}, {.min = 10, .max = 20, .valeur = 12}};
+inline constinit champ_option hiver{fiche, "hiver", {}, {.cadre = &cadre}};
+inline constinit champ_option ete{fiche, "ete", {}, {.cadre = &cadre, .coche = true}};
+inline constinit champ_option ailleurs{fiche, "ailleurs", {}, {.coche = true}};
+inline constinit champ_coche case_{fiche, "case", {}};
+inline constinit champ_progression avance{fiche, "avance", {}, {.max = 100}};
+inline constinit minuteur horloge{fiche, "horloge", {.intervalle = 100}};
+inline constinit entree menu{fiche, "menu", {.traits = surgissant}};
+inline constinit entree choix{fiche, "choix", {.legende = "Choix", .cadre = &menu}};
+inline constinit tableau<champ_texte, 2> cases{fiche, "cases", {{}, {}}};
+
+struct prive {
+    int compte = 0;
+};
+inline prive p;
+
+} // namespace essai
+
+using namespace essai;
+using base::cause;
+using essais::attend_echec;
+
+namespace {
+
+class Panneau : public essais::Essai {
+  protected:
+    Panneau() {
+        fiche.construit(shell::liste(cadre, texte, bouton, stop, liste_objets, annee, barre, hiver, ete,
+                                     ailleurs, case_, avance, horloge, menu, choix, cases));
+        fiche.au_chargement([this] { journal += "charge "; });
+        fiche.au_dechargement([this] { journal += fiche.est_charge() ? "decharge " : "trop tard "; });
+        fiche.remise_a_zero([] { p = {}; });
+        bouton.au_clic([this] { journal += bouton.enfonce() ? "clic " : "sans appui "; });
+        stop.au_clic([this] { journal += "stop "; });
+        liste_objets.au_clic([this] { journal += "choix" + std::to_string(liste_objets.position()) + " "; });
+        liste_objets.au_double_clic([this] { journal += "double "; });
+        liste_objets.au_clic_droit([this] { journal += "droit "; });
+        barre.au_changement([this] { journal += "barre "; });
+        hiver.au_clic([this] { journal += "hiver "; });
+        ete.au_clic([this] { journal += "ete "; });
+        choix.au_clic([this] { journal += "choisi "; });
+    }
+    std::string pris() { return std::exchange(journal, {}); }
+    std::string journal;
+};
+
+} // namespace
+
+TEST_F(Panneau, AnyAccessLoadsItAndShowsNothing) {
+    EXPECT_FALSE(fiche.est_charge());
+    EXPECT_EQ(texte.nombre(), 12);
+    EXPECT_EQ(pris(), "charge ");
+    EXPECT_FALSE(fiche.est_visible());
+    texte.ecrit("5");
+    EXPECT_EQ(pris(), "") << "loaded once";
+    const std::function<void()> acces[] = {[] { bouton.visible(false); }, [] { fiche.largeur(10); },
+                                           [] { fiche.legende("x"); },    [] { horloge.marche(true); },
+                                           [] { bouton.clic(); },         [] { barre.place(12); },
+                                           [] { cases(1).actif(false); }, [] { liste_objets.vide(); }};
+    for (const auto& a : acces) {
+        fiche.decharge();
+        pris();
+        a();
+        EXPECT_EQ(pris().substr(0, 7), "charge ");
+    }
+    fiche.decharge();
+    EXPECT_EQ(texte.regarde_texte(), "12abc");
+    EXPECT_FALSE(fiche.est_charge()) << "looking loads nothing";
+}
+
+TEST_F(Panneau, UnloadBringsBackTheDesign) {
+    fiche.decharge();
+    fiche.ferme();
+    EXPECT_EQ(pris(), "") << "not loaded: nothing to do";
+    texte.ecrit("autre");
+    liste_objets.ajoute(std::vector<std::string>{"a", "b"});
+    bouton.visible(false);
+    fiche.largeur(999);
+    fiche.legende("x");
+    fiche.montre();
+    horloge.marche(true);
+    p.compte = 7;
+    pris();
+    fiche.ferme();
+    EXPECT_EQ(pris(), "decharge ");
+    EXPECT_FALSE(fiche.est_charge() || fiche.est_visible());
+    EXPECT_EQ(fiche.regarde_largeur(), 3000);
+    EXPECT_EQ(fiche.regarde_legende() + texte.regarde_texte(), "Essai12abc");
+    EXPECT_TRUE(liste_objets.regarde_lignes().empty() && bouton.regarde_visible());
+    EXPECT_EQ(p.compte, 0);
+    boucle.avance(1'000'000'000);
+    EXPECT_FALSE(horloge.regarde_marche());
+    // From its own handlers it ends once.
+    fiche.au_dechargement([this] {
+        journal += "decharge ";
+        fiche.decharge();
+        texte.ecrit("pendant");
+    });
+    bouton.au_clic([] { fiche.decharge(); });
+    bouton.clic();
+    EXPECT_EQ(pris(), "charge decharge ");
+    EXPECT_FALSE(fiche.est_charge());
+}
+
+TEST_F(Panneau, ActsDoNothingOnWhatAPersonCannotReach) {
+    fiche.charge();
+    pris();
+    cadre.visible(false);
+    bouton.clic();
+    bouton.appuie();
+    texte.saisit("x");
+    hiver.clic();
+    EXPECT_EQ(pris(), "");
+    EXPECT_EQ(texte.lit(), "12abc");
+    cadre.visible(true);
+    bouton.actif(false);
+    bouton.clic();
+    EXPECT_EQ(pris(), "");
+    bouton.actif(true);
+    bouton.clic();
+    EXPECT_EQ(pris(), "clic ") << "a panel that is loaded but not shown is no obstacle";
+    EXPECT_FALSE(bouton.enfonce());
+    menu.actif(false);
+    choix.clic();
+    EXPECT_EQ(pris(), "");
+    int tics = 0;
+    horloge.au_tic([&] { ++tics; });
+    horloge.marche(true);
+    shell::gele();
+    bouton.clic();
+    stop.clic();
+    fiche.touche_echap();
+    fiche.ferme();
+    boucle.avance(1'000'000'000);
+    EXPECT_EQ(pris(), "") << "frozen after a failure";
+    EXPECT_EQ(tics, 0);
+}
+
+TEST_F(Panneau, AStopActsAtThePressAndTheOthersAtTheRelease) {
+    bouton.appuie();
+    EXPECT_EQ(pris(), "charge ");
+    bouton.relache();
+    EXPECT_EQ(pris(), "clic ");
+    bouton.relache();
+    EXPECT_EQ(pris(), "") << "no release without a press";
+    stop.appuie();
+    EXPECT_EQ(pris(), "stop ");
+    stop.relache();
+    EXPECT_EQ(pris(), "");
+    stop.clic();
+    EXPECT_EQ(pris(), "stop ");
+    fiche.touche_echap();
+    EXPECT_EQ(pris(), "stop ");
+}
+
+TEST_F(Panneau, ListsKeepTheirPositionInRange) {
+    liste_objets.ajoute(std::vector<std::string>{"a", "b", "c"});
+    pris();
+    liste_objets.position(1);
+    liste_objets.position(1);
+    EXPECT_EQ(pris(), "choix1 ") << "by code: a change fires, the same value does not";
+    liste_objets.choisit(1);
+    EXPECT_EQ(pris(), "choix1 ") << "a person's click always does";
+    liste_objets.choisit(3);
+    liste_objets.choisit(-2);
+    EXPECT_EQ(pris(), "");
+    liste_objets.double_clic(2);
+    EXPECT_EQ(pris(), "choix2 double ");
+    liste_objets.double_clic(2);
+    EXPECT_EQ(pris(), "double ");
+    liste_objets.droit(-1);
+    EXPECT_EQ(pris(), "droit ");
+    EXPECT_EQ(liste_objets.position(), -1);
+    EXPECT_NE(attend_echec(cause::propriete, [] { liste_objets.position(3); }).find("essai.liste"),
+              std::string::npos);
+    attend_echec(cause::propriete, [] { liste_objets.position(-2); });
+    attend_echec(cause::indice, [] { liste_objets.ligne(3); });
+    liste_objets.vide();
+    EXPECT_EQ(liste_objets.position(), -1);
+    annee.ajoute(std::vector<std::string>{"0", "1"});
+    annee.position(1);
+    attend_echec(cause::propriete, [] { annee.position(-1); });
+    EXPECT_EQ(annee.position(), 1);
+}
+
+TEST_F(Panneau, BarsFireOnlyWhenTheyMove) {
+    fiche.charge();
+    pris();
+    barre.valeur(12);
+    EXPECT_EQ(pris(), "");
+    barre.valeur(13);
+    EXPECT_EQ(pris(), "barre ");
+    barre.place(14);
+    EXPECT_EQ(pris(), "") << "placed silently";
+    EXPECT_EQ(barre.valeur(), 14);
+    barre.regle(99);
+    EXPECT_EQ(barre.valeur(), 20);
+    EXPECT_EQ(pris(), "barre ");
+    barre.regle(-5);
+    EXPECT_EQ(barre.valeur(), 10);
+    attend_echec(cause::propriete, [] { barre.valeur(21); });
+    attend_echec(cause::propriete, [] { barre.place(9); });
+    attend_echec(cause::propriete, [] { avance.valeur(100.5); });
+    attend_echec(cause::indice, [] { cases(2); });
+}
+
+TEST_F(Panneau, TheViewHearsOfChangesOnly) {
+    fiche.montre();
+    EXPECT_EQ(vue.elevations, 0);
+    fiche.montre();
+    EXPECT_EQ(vue.elevations, 1) << "showing what is shown raises it";
+    texte.ecrit("a");
+    const int avant = vue.changements;
+    texte.ecrit("a");
+    bouton.visible(true);
+    barre.place(12);
+    cadre.legende("Cadre");
+    EXPECT_EQ(vue.changements, avant);
+    texte.ecrit("b");
+    EXPECT_EQ(vue.changements, avant + 1);
+}
+
+// ---- timers
+
+TEST_F(Panneau, ATickIsDueOneIntervalAfterTheStartOfTheLast) {
+    std::vector<std::int64_t> instants; // ms
+    horloge.au_tic([&] {
+        instants.push_back(boucle.temps() / 1'000'000);
+        if (instants.size() == 2)
+            boucle.attend(250'000'000); // this tick outlasts two intervals, without yielding
+    });
+    horloge.marche(true);
+    horloge.marche(true);
+    boucle.avance(620'000'000);
+    // 200 lasts to 450: the tick due at 300 comes late, the one of 400 is dropped.
+    EXPECT_EQ(instants, (std::vector<std::int64_t>{100, 200, 450, 550}));
+}
+
+TEST_F(Panneau, ATickIsNeverReentered) {
+    int profondeur = 0, plus_profond = 0, tics = 0;
+    horloge.au_tic([&] {
+        plus_profond = std::max(plus_profond, ++profondeur);
+        if (++tics == 1)
+            for (int i = 0; i < 30; ++i) { // 300 ms of motion, yielding
+                boucle.attend(10'000'000);
+                boucle.cede();
+                if (i == 12) { // neither an unload nor a new interval lets it in
+                    fiche.decharge();
+                    horloge.intervalle(20);
+                    horloge.marche(true);
+                }
+            }
+        --profondeur;
+    });
+    horloge.marche(true);
+    boucle.avance(430'000'000);
+    EXPECT_EQ(plus_profond, 1);
+    // 100 to 400 the first; the one held back at 400; then every 20 ms: 420.
+    EXPECT_EQ(tics, 3);
+}

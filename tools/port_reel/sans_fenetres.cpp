@@ -1,0 +1,136 @@
+// Stands for the windows of `velmoria`: main file, port, rights, waits and panels are the program's own, and
+// this is the observer, who pushes buttons and reads on paper what the program says.
+#include "drive/etat_moteur.h"
+#include "fields/frmaltazpilot_champs.h"
+#include "fields/frminterface_champs.h"
+#include "frame/programme.h"
+#include "machines/qt/lance.h"
+
+#include <csignal>
+#include <cstdio>
+#include <fstream>
+#include <functional>
+#include <initializer_list>
+
+namespace {
+
+using plateforme::Inp32;
+using plateforme::Out32;
+
+struct fin {
+    int statut;
+};
+
+/// Waits for real, knows no timers; does `geste` at the end of the yield that brings `reste` to 0.
+class boucle_reelle final : public plateforme::boucle {
+  public:
+    explicit boucle_reelle(std::function<void(std::int64_t)> attente) : attente_(std::move(attente)) {}
+    void attend(std::int64_t ns) override { attente_(ns); }
+    void cede() override {
+        if (reste > 0 && --reste == 0)
+            geste();
+    }
+    void arme(shell::minuteur&, int) override {}
+    void desarme(shell::minuteur&) override {}
+    [[noreturn]] void termine(int statut) override { throw fin{statut}; }
+
+    int reste = 0;
+    std::function<void()> geste;
+
+  private:
+    std::function<void(std::int64_t)> attente_;
+};
+
+class vue_absente final : public plateforme::vue {
+    void panneau_change(const shell::panneau&) override {}
+    void eleve(const shell::panneau&) override {}
+    void repeint(const shell::panneau&) override {}
+    void controle_change(const shell::controle&, plateforme::aspect) override {}
+    shell::entree* ouvre_menu(shell::entree&, const shell::entree*) override { return nullptr; }
+    void message(const std::string& texte) override { std::printf("message : %s\n", texte.c_str()); }
+    plateforme::image charge_image(const std::filesystem::path&) override { return {1, 10, 10, 96}; }
+};
+
+/// What the process may still do: its own sets of capabilities, as the kernel tells them.
+void montre_droits() {
+    std::ifstream etat{"/proc/self/status"};
+    std::printf("droits :");
+    for (std::string ligne; std::getline(etat, ligne);)
+        if (ligne.starts_with("Cap") && !ligne.starts_with("CapBnd"))
+            std::printf(" %s %s", ligne.substr(3, 3).c_str(), ligne.substr(8).c_str());
+    std::printf("\n");
+}
+
+void observe(boucle_reelle& boucle) {
+    const auto apres = [&boucle](int pas, std::function<void()> geste) {
+        boucle.reste = 2 * pas; // two yields a step
+        boucle.geste = std::move(geste);
+    };
+    const auto jog = [&](shell::champ_bouton& bouton, int pas) {
+        apres(pas, [] { frmaltazpilot::cmddstop.clic(); });
+        bouton.clic();
+    };
+    const auto relit = [](int registre, std::initializer_list<int> valeurs) {
+        std::printf("%d :", registre);
+        for (const int v : valeurs) {
+            Out32(registre, v);
+            std::printf(" %d relu %d", v, Inp32(registre).valeur());
+        }
+        std::printf("\n");
+    };
+    frminterface::barchoix_boutons(2).clic();
+    frminterface::baraltaz_boutons(3).clic();
+    jog(frmaltazpilot::cmdad, 3);
+    jog(frmaltazpilot::cmdag, 2);
+    jog(frmaltazpilot::cmdhh, 2);
+    jog(frmaltazpilot::cmdhb, 1);
+    std::printf("jogs : compteaz %d, comptealt %d, 888 relu %d\n", cmd_moteur::compteaz.valeur(),
+                cmd_moteur::comptealt.valeur(), Inp32(plateforme::registre_donnees).valeur());
+
+    // No key; then the medium azimuth key, 9, for two steps, played by writing to the lines it would pull.
+    frminterface::baraltaz_boutons(2).clic();
+    frminterface::Timer.tic();
+    std::printf("raquette : code %d", cmd_moteur::codepaddle.valeur());
+    Out32(plateforme::registre_controle, 9);
+    apres(2, [] { Out32(plateforme::registre_controle, 11); });
+    frminterface::Timer.tic();
+    std::printf(", %d", cmd_moteur::codepaddle.valeur());
+    frminterface::Timer.tic();
+    std::printf(", %d, compteaz %d\n", cmd_moteur::codepaddle.valeur(), cmd_moteur::compteaz.valeur());
+
+    relit(plateforme::registre_donnees, {255, 170, 85, 0});
+    relit(plateforme::registre_controle, {0, 1, 11});
+    frminterface::Quitter.clic();
+}
+
+} // namespace
+
+namespace plateforme::qt {
+
+int refuse(int, char**, const std::string& raison) {
+    std::printf("refus : %s\n", raison.c_str());
+    return 1;
+}
+
+// With an argument, stops before anything is built until it is let go on: so that a second one can be tried.
+int lance(int argc, char**, composition c) {
+    montre_droits();
+    if (argc > 1)
+        raise(SIGSTOP);
+    boucle_reelle boucle{c.attente};
+    vue_absente vue;
+    courante = {&c.port, &c.horloge, &boucle, &vue, VELMORIA_DONNEES};
+    programme::construit();
+    if (!c.avis.empty())
+        std::printf("boîte : %s\n", c.avis.c_str());
+    try {
+        programme::demarre();
+        observe(boucle);
+    } catch (const fin& f) {
+        return f.statut;
+    }
+    std::printf("le programme n'a pas quitté\n");
+    return 2;
+}
+
+} // namespace plateforme::qt
