@@ -4,5 +4,7 @@
 
 int main(int argc, char** argv) {
     plateforme::horloge_systeme horloge;
-    return lance_sur_le_port(argc, argv, horloge);
+    return lance_sur_le_port(
+        {.nom = "velmoria", .role = "Pilote un télescope par le port parallèle, à l'heure de l'ordinateur."},
+        argc, argv, horloge);
 }

@@ -7,5 +7,7 @@
 int main(int argc, char** argv) {
     plateforme::horloge_equivalente horloge{plateforme::temps_universel,
                                             [] { return int{general::decalageheure.valeur()}; }};
-    return lance_sur_le_port(argc, argv, horloge);
+    return lance_sur_le_port({.nom = "velmoria-aujourdhui",
+                              .role = "Pilote un télescope par le port parallèle, sous le ciel de ce soir."},
+                             argc, argv, horloge);
 }

@@ -4,11 +4,17 @@
 #include "machines/qt/bench/composition.h"
 #include "machines/qt/bench/fenetre_banc.h"
 #include "machines/qt/fin.h"
+#include "programs/options.h"
 #include "sky/heure.h"
 
 #include <optional>
 
 int main(int argc, char** argv) {
+    const options::programme programme{
+        .nom = "velmoria-banc",
+        .role = "Le programme entier sur un banc simulé : rien n'a besoin d'être branché."};
+    if (const auto statut = options::lit(programme, argc, argv).statut)
+        return *statut;
     banc::horloge_banc horloge{plateforme::temps_universel,
                                [] { return int{general::decalageheure.valeur()}; }};
     plateforme::attente_precise attente;
@@ -17,5 +23,5 @@ int main(int argc, char** argv) {
     plateforme::qt::a_la_fin([&etabli] { etabli.cesse_d_enregistrer(); });
     auto composition = banc::sur_le_banc(etabli, horloge, attente);
     composition.ensuite = [&] { fenetre.emplace(etabli, horloge).show(); };
-    return plateforme::qt::lance(argc, argv, std::move(composition));
+    return plateforme::qt::lance(1, argv, std::move(composition));
 }

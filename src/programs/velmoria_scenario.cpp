@@ -1,6 +1,7 @@
 // velmoria-scenario FILE: plays a scenario on the bench, in virtual time. `-` is standard input.
 
 #include "machines/virtual/scenario.h"
+#include "programs/options.h"
 
 #include <cstdio>
 #include <fstream>
@@ -25,11 +26,14 @@ fs::path donnees_livrees() {
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 2) {
-        std::cerr << "usage : velmoria-scenario FICHIER (- pour l'entrée standard)\n";
-        return 1;
-    }
-    const std::string nom = argv[1];
+    const auto [statut_lu, nom] =
+        options::lit({.nom = "velmoria-scenario",
+                      .role = "Joue un scénario sur le banc, en temps virtuel.",
+                      .fichier = "FICHIER",
+                      .sens_du_fichier = "le scénario, ou - pour l'entrée standard"},
+                     argc, argv);
+    if (statut_lu)
+        return *statut_lu;
     std::ios::sync_with_stdio(false);
     std::ifstream fichier;
     if (nom != "-") {

@@ -54,7 +54,7 @@ void retire_ioperm() {
     exige(prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &regle) == 0, "seccomp");
 }
 
-pid_t lance(const char* titre, uid_t utilisateur, const char* argument = nullptr, bool sans_ioperm = false) {
+pid_t lance(const char* titre, uid_t utilisateur, bool attend = false, bool sans_ioperm = false) {
     std::printf("-- %s\n", titre);
     const pid_t enfant = fork();
     exige(enfant >= 0, "fork");
@@ -62,7 +62,9 @@ pid_t lance(const char* titre, uid_t utilisateur, const char* argument = nullptr
         if (sans_ioperm)
             retire_ioperm();
         exige(setgid(utilisateur) == 0 && setuid(utilisateur) == 0, "setuid");
-        execl(programme, programme, argument, nullptr);
+        if (attend)
+            setenv("VELMORIA_ATTEND", "1", 1);
+        execl(programme, programme, nullptr);
         exige(false, programme);
     }
     return enfant;
@@ -78,7 +80,7 @@ void conclut(pid_t enfant) {
 }
 
 void noyau_ordinaire() {
-    const pid_t premier = lance("avec le droit", 1000, "attend");
+    const pid_t premier = lance("avec le droit", 1000, true);
     int etat = 0;
     exige(waitpid(premier, &etat, WUNTRACED) == premier && WIFSTOPPED(etat), "premier programme");
     conclut(lance("un second, d'un autre utilisateur, pendant que le premier tient le port", 1001));
@@ -90,9 +92,9 @@ void noyau_ordinaire() {
     conclut(lance("sans le droit", 1000));
     setcap(true);
     exige(chown("/dev/port", 1000, 1000) == 0, "/dev/port");
-    conclut(lance("noyau sans ioperm, /dev/port permis", 1000, nullptr, true));
+    conclut(lance("noyau sans ioperm, /dev/port permis", 1000, false, true));
     exige(unlink("/dev/port") == 0, "/dev/port");
-    conclut(lance("ni ioperm ni /dev/port", 1000, nullptr, true));
+    conclut(lance("ni ioperm ni /dev/port", 1000, false, true));
 }
 
 void noyau_verrouille() {

@@ -8,6 +8,7 @@
 
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <fstream>
 #include <functional>
 #include <initializer_list>
@@ -112,10 +113,11 @@ int refuse(int, char**, const std::string& raison) {
     return 1;
 }
 
-// With an argument, stops before anything is built until it is let go on: so that a second one can be tried.
-int lance(int argc, char**, composition c) {
+// With VELMORIA_ATTEND, stops before anything is built until it is let go on: so that a second one can be
+// tried.
+int lance(int, char**, composition c) {
     montre_droits();
-    if (argc > 1)
+    if (std::getenv("VELMORIA_ATTEND"))
         raise(SIGSTOP);
     boucle_reelle boucle{c.attente};
     vue_absente vue;

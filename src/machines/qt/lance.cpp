@@ -9,17 +9,62 @@
 #include "machines/qt/vue_qt.h"
 
 #include <QApplication>
+#include <cstdio>
+#include <cstdlib>
 
 // Outside any namespace: Qt's rule for resources that live in a library.
 static void prend_les_images() { Q_INIT_RESOURCE(images); }
 
 namespace plateforme::qt {
 
-seance::seance(int argc, char** argv, composition c) : argc_(argc), c_(std::move(c)) {
+namespace {
+
+const char* variable(const char* nom) {
+    const char* v = std::getenv(nom);
+    return v ? v : "";
+}
+
+// Why no window can be opened, and what to do, in one sentence.
+std::string sans_affichage() {
+    const std::string greffon = variable("QT_QPA_PLATFORM");
+    const std::string x11 = variable("DISPLAY");
+    const std::string wayland = variable("WAYLAND_DISPLAY");
+    if (!greffon.empty())
+        return "l'affichage \"" + greffon + "\", demandé par la variable QT_QPA_PLATFORM, ne s'ouvre pas";
+    if (x11.empty() && wayland.empty())
+        return "pas d'affichage : lancez le programme depuis une session graphique";
+    return "l'affichage \"" + (wayland.empty() ? x11 : wayland) +
+           "\" ne s'ouvre pas : l'écran est fermé à ce compte, ou un greffon de Qt manque (sudo apt install "
+           "libqt6gui6)";
+}
+
+// Qt's own way out is to abort, after lines in English. What it says of a display that does open is passed
+// on.
+QString dit_a_l_ouverture;
+
+void ecoute(QtMsgType gravite, const QMessageLogContext&, const QString& texte) {
+    if (gravite == QtFatalMsg) {
+        std::fprintf(stderr, "velmoria : %s\n", sans_affichage().c_str());
+        std::_Exit(1);
+    }
+    dit_a_l_ouverture += texte + "\n";
+}
+
+std::unique_ptr<QApplication> ouvre_affichage(int& argc, char** argv) {
     prepare();
-    application_ = std::make_unique<QApplication>(argc_, argv);
-    prend_les_images();
+    const auto avant = qInstallMessageHandler(ecoute);
+    auto application = std::make_unique<QApplication>(argc, argv);
+    qInstallMessageHandler(avant);
+    std::fputs(std::exchange(dit_a_l_ouverture, {}).toLocal8Bit().constData(), stderr);
     habille();
+    return application;
+}
+
+} // namespace
+
+seance::seance(int argc, char** argv, composition c) : argc_(argc), c_(std::move(c)) {
+    application_ = ouvre_affichage(argc_, argv);
+    prend_les_images();
     QApplication::setApplicationName("Velmoria");
     QApplication::setWindowIcon(icone_programme(c_.icone));
 
@@ -37,8 +82,10 @@ seance::seance(int argc, char** argv, composition c) : argc_(argc), c_(std::move
 seance::~seance() = default;
 
 void seance::demarre() {
-    if (!c_.avis.empty())
+    if (!c_.avis.empty()) {
+        std::fprintf(stderr, "%s\n", c_.avis.c_str());
         vue_->message(c_.avis);
+    }
     programme::demarre();
     if (c_.ensuite)
         c_.ensuite();
@@ -51,9 +98,8 @@ int lance(int argc, char** argv, composition c) {
 }
 
 int refuse(int argc, char** argv, const std::string& raison) {
-    prepare();
-    QApplication application{argc, argv};
-    habille();
+    std::fprintf(stderr, "%s\n", raison.c_str());
+    const auto application = ouvre_affichage(argc, argv);
     vue_qt{}.message(raison);
     return 1;
 }

@@ -24,13 +24,15 @@ struct composition {
     /// Runs at the end of each yield; empty for nothing.
     std::function<void()> apres_cession = {};
     const char* icone = "velmoria"; ///< the program's icon among the pictures built in
-    std::string avis = {};          ///< shown in a box before the main frame loads; empty for none
+    std::string avis =
+        {}; ///< told on standard error and in a box before the main frame loads; empty for none
     /// Runs once the main frame is on screen: the bench opens its own window there.
     std::function<void()> ensuite = {};
     std::filesystem::path donnees = {}; ///< the data folder; empty for the one beside the executable
 };
 
-/// Builds the program on Qt and runs it; the process ends inside.
+/// Builds the program on Qt and runs it; the process ends inside. Without a display it ends with status 1
+/// and one sentence on standard error.
 int lance(int argc, char** argv, composition c);
 
 /// The same in steps, for tests and measurements: the program built and installed, not started. One at a
@@ -55,7 +57,7 @@ class seance {
     std::unique_ptr<vue_qt> vue_;
 };
 
-/// Says in a box why the program does not start; gives the exit status 1.
+/// Says on standard error and in a box why the program does not start; gives the exit status 1.
 int refuse(int argc, char** argv, const std::string& raison);
 
 } // namespace plateforme::qt

@@ -78,6 +78,8 @@ void prepare() {
     QGuiApplication::setDesktopSettingsAware(false);
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    // Nobody wants a telescope program that the next login starts by itself.
+    QCoreApplication::setAttribute(Qt::AA_DisableSessionManager);
 }
 
 void habille() {
