@@ -28,4 +28,3 @@ for nom in noms:
     if octets >= 60 * 1024:
         sys.exit(f"{fichier}: too large for a help page")
 FIN
-cp docs/suivi/erreurs.svg aide/captures/

@@ -134,7 +134,6 @@ def produit(racine):
     for nom in ("velmoria", "velmoria-banc"):
         for cote in COTES_PROGRAMME:
             ecrit_png(dessine(nom, cote, cote), ressources / f"{nom}-{cote}.png")
-        shutil.copyfile(ressources / f"{nom}-{COTES_PROGRAMME[-1]}.png", ressources / f"{nom}.png")
     ecrit_qrc(ressources)
 
 

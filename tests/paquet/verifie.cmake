@@ -16,7 +16,7 @@ file(MAKE_DIRECTORY "${DOSSIER}")
 joue(0 _ ${CMAKE_COMMAND} --install ${CONSTRUCTION} --prefix ${ici})
 
 set(programmes velmoria velmoria-aujourdhui velmoria-banc velmoria-scenario)
-foreach(nom ${programmes} installe-bureau.sh LICENSE LISEZMOI.txt data/LICENCE-catalogues.txt data/LISEZMOI.txt
+foreach(nom ${programmes} installe-bureau.sh LICENCE LISEZMOI.txt data/LICENCE-catalogues.txt data/LISEZMOI.txt
         data/notes.txt data/config_altaz.ini data/vitessealtaz.ini data/inversion.ini data/messier.cat data/ngc7.cat
         data/img/liste.txt data/date/2000/janvier/sg0.txt data/date/2001/decembre/sg0.txt aide/index.html aide/style.css
         demo/demonstration.scn demo/mise_en_service.scn icones/velmoria-256.png icones/velmoria-banc-256.png)
