@@ -27,7 +27,7 @@ DONNEES = ICI.parent / "data"
 # - ST, a group of stars, takes associations, star clouds (M24), double stars (M40)
 #   and the numbers that turned out to be one ordinary star.
 # Dup (second number of an object), NonEx, Other (mostly an empty place) and Nova
-# have nothing to point at and are left out.
+# have nothing to point at and are left out, but for the well-known ones below.
 TYPES = {
     "G": "GL", "GPair": "GL", "GTrpl": "GL", "GGroup": "GL",
     "OCl": "OC", "GCl": "GC", "PN": "PN",
@@ -37,6 +37,10 @@ TYPES = {
 
 # M73 is Other in the source: four stars, which an observer expects to find.
 TYPES_MESSIER = {"73": "ST"}
+
+# Second numbers (Dup in the source) that observers know better than the first, which stands in another row, and IC1318,
+# in the source the star Gamma Cygni alone: the nebula around it.
+BIEN_CONNUS = {"NGC2244": "Cl+N", "NGC2478": "OCl", "NGC6383": "OCl", "IC2118": "RfN", "IC1318": "EmN"}
 
 # Index Catalogue: 5386 numbers, mostly faint galaxies and single stars, for 1031
 # places. Kept: every cluster, nebula and association, and the galaxies to this
@@ -67,7 +71,11 @@ NOMS_FRANCAIS = {
 def lit(nom):
     """A source table, as a list of rows by column name."""
     with open(SOURCES / nom, encoding="utf-8", newline="") as fichier:
-        return list(csv.DictReader(fichier))
+        lignes = list(csv.DictReader(fichier))
+    for l in lignes:
+        if l.get("name") in BIEN_CONNUS:
+            l["type"] = BIEN_CONNUS[l["name"]]
+    return lignes
 
 
 def entier(valeur):
