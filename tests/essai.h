@@ -1,18 +1,41 @@
-// A program on a machine of numbers: virtual time, the simulated port, a view that only remembers, and a
-// private copy of the delivered data.
+// For tests of failures: a fatal failure is thrown. And a program on a machine of numbers: virtual time, the
+// simulated port, a view that only remembers, and a private copy of the delivered data.
 #pragma once
 
+#include "base/fatale.h"
 #include "base/octets.h"
 #include "bench/monture.h"
 #include "bench/port_simule.h"
-#include "echec.h"
 #include "frame/programme.h"
 #include "machines/virtual/boucle_virtuelle.h"
 
 #include <cstdlib>
 #include <filesystem>
+#include <gtest/gtest.h>
 
 namespace essais {
+
+struct echec {
+    base::cause cause;
+    std::string detail;
+};
+
+/// Runs `f` and expects it to fail for the cause given; gives the detail of the message.
+template <class F> std::string attend_echec(base::cause attendue, F&& f) {
+    const auto avant = base::installe_gestionnaire([](base::cause c, const std::string& d) {
+        throw echec{c, d};
+    });
+    std::string detail;
+    try {
+        f();
+        ADD_FAILURE() << "no failure, where this one was due: " << base::libelle(attendue);
+    } catch (const echec& e) {
+        EXPECT_EQ(base::libelle(e.cause), base::libelle(attendue));
+        detail = e.detail;
+    }
+    base::installe_gestionnaire(avant);
+    return detail;
+}
 
 /// A folder of the test's own.
 class dossier_prive {

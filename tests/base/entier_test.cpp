@@ -1,5 +1,5 @@
 #include "base/entier.h"
-#include "echec.h"
+#include "essai.h"
 
 using base::entier16;
 using base::entier32;
@@ -41,9 +41,4 @@ TEST(Entier, TakesTheWiderOfTwoWidthsAndCutsTowardZero) {
     n += 10;
     n -= entier16{1};
     EXPECT_EQ(n.valeur(), 15);
-}
-
-TEST(Booleen, TrueIsMinusOne) {
-    EXPECT_EQ(base::booleen16{true}.valeur(), -1);
-    EXPECT_EQ(base::booleen16{}.valeur(), 0);
 }

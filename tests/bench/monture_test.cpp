@@ -2,11 +2,9 @@
 #include "bench/port_simule.h"
 
 #include <gtest/gtest.h>
-#include <limits>
 
 namespace {
 
-using banc::axe;
 using banc::impulsions;
 using banc::monture;
 
@@ -62,28 +60,6 @@ TEST(Monture, AnglesFollowTheEdgesFromWhereItWasSet) {
     EXPECT_DOUBLE_EQ(m.position(0.5, 2.0).alt, 162002.0);
 }
 
-TEST(Monture, ClearingTheCountsMovesNeitherLinesNorAngles) {
-    monture m;
-    avance(m, 4, 6);
-    m.zero();
-    m.recoit(4); // the line was left high: no edge
-    EXPECT_TRUE(m.compte() == impulsions{});
-    EXPECT_TRUE(m.total() == (impulsions{6, 0, 0, 0}));
-    avance(m, 12, 2);
-    EXPECT_TRUE(m.compte() == (impulsions{0, 2, 0, 0}));
-    EXPECT_DOUBLE_EQ(m.position(1.0, 1.0).az, 4.0);
-}
-
-TEST(Monture, TheUnitOfAStepIsNeverAFailure) {
-    EXPECT_DOUBLE_EQ(banc::unite(360.0, 200.0), 9.0); // 648000 / 72000
-    EXPECT_DOUBLE_EQ(banc::unite(-324.0, 200.0), -10.0);
-    const double infini = std::numeric_limits<double>::infinity();
-    EXPECT_EQ(banc::unite(0.0, 200.0), 0.0);
-    EXPECT_EQ(banc::unite(360.0, 0.0), 0.0);
-    EXPECT_EQ(banc::unite(1e-200, 1e-200), 0.0);
-    EXPECT_EQ(banc::unite(infini, 0.0), 0.0);
-}
-
 // The rate shown, once settled, for a motion of `par_seconde` evenly spaced pulses looked at every `pas_ms`.
 void attend_cadence(double par_seconde, int pas_ms, double tolerance) {
     SCOPED_TRACE(par_seconde);
@@ -104,46 +80,6 @@ TEST(Cadence, IsSteadyForSlowAndFastMotions) {
     attend_cadence(300.0, 50, 0.02);
     attend_cadence(250'000.0, 50, 1e-4);
     attend_cadence(250'000.0, 1, 1e-4);
-}
-
-TEST(Cadence, FollowsAStartAndAStop) {
-    banc::cadence c;
-    std::int64_t t = 0;
-    std::uint64_t total = 700; // what went before is no rate
-    const auto pendant = [&](int pas, std::uint64_t chacun) {
-        double vue = 0.0;
-        for (int i = 0; i < pas; ++i)
-            vue = c.mesure(total += chacun, t += 50 * ms);
-        return vue;
-    };
-    EXPECT_EQ(pendant(10, 0), 0.0);
-    EXPECT_EQ(pendant(1, 1), 0.0); // one pulse is no motion
-    EXPECT_DOUBLE_EQ(pendant(8, 1000), 20'000.0);
-    EXPECT_DOUBLE_EQ(pendant(8, 50), 1000.0);
-    EXPECT_EQ(pendant(7, 0), 0.0);
-
-    EXPECT_DOUBLE_EQ((pendant(1, 20), pendant(19, 0), pendant(1, 20)), 20.0); // bursts, one a second
-    EXPECT_DOUBLE_EQ(pendant(19, 0), 20.0);
-    EXPECT_EQ(pendant(25, 0), 0.0);
-
-    EXPECT_EQ(c.mesure(total, t - 3600 * 1000 * ms), 0.0); // a clock set back
-    EXPECT_EQ(pendant(1, 10), 0.0);
-    EXPECT_DOUBLE_EQ(pendant(1, 10), 200.0);
-}
-
-TEST(Cadence, OfAnAxisCountsBothDirectionsAndNotTheOtherAxis) {
-    monture m;
-    for (int i = 0; i <= 20; ++i) {
-        const std::int64_t t = i * 100 * ms;
-        EXPECT_EQ(m.cadence(axe::altitude, t), 0.0);
-        const double az = m.cadence(axe::azimut, t);
-        if (i >= 2) {
-            EXPECT_DOUBLE_EQ(az, 1000.0);
-        }
-        avance(m, i % 2 == 0 ? 4 : 12, 100);
-        if (i == 10)
-            m.zero();
-    }
 }
 
 } // namespace

@@ -32,25 +32,6 @@ class demarrage : public essais::fenetres {
     }
 };
 
-TEST_F(demarrage, the_main_frame_and_its_menu) {
-    EXPECT_EQ(principale()->windowTitle(), "Velmoria : Pilotage de télescopes");
-    EXPECT_TRUE(montree("barchoix"));
-    for (const auto* barre : {"bargeneral", "barequa", "baraltaz"})
-        EXPECT_FALSE(montree(barre)) << barre;
-    EXPECT_TRUE(port.ecritures.empty());
-    EXPECT_FALSE(principale()->findChild<QAction*>("mnusuivi")->isEnabled());
-    for (const auto* w : QApplication::topLevelWidgets())
-        EXPECT_FALSE(w->objectName() == "frmintro" && w->isVisible());
-    QStringList lu;
-    for (const auto* a : principale()->findChild<QMenuBar*>()->actions())
-        lu << a->text();
-    for (const auto* m : {menu("Equatorial.menu"), menu("altazimutal.menu")})
-        for (const auto* a : m->actions())
-            lu << a->objectName();
-    EXPECT_EQ(lu.join('/'), "Quitter/Télescope/Observations/Aide/A propos de /mnupilotageequa/mnupointequa/"
-                            "mnuparaequa/mnupilotagealtaz/mnupointaltaz/mnusuivi/mnuparaaltaz");
-}
-
 // An entry that has children and a command: pointing at it opens its menu, a click runs its command.
 TEST_F(demarrage, entries_with_children_by_the_mouse) {
     const auto equatorial = dans_telescope("Equatorial");
@@ -69,19 +50,6 @@ TEST_F(demarrage, entries_with_children_by_the_mouse) {
         EXPECT_TRUE(montree(barre));
         EXPECT_FALSE(QApplication::activePopupWidget());
     }
-}
-
-TEST_F(demarrage, entries_with_children_by_the_keys) {
-    dans_telescope("altazimutal");
-    auto* ouvert = menu("mnutelescope.menu");
-    for (const auto touche : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Right})
-        QTest::keyClick(ouvert, touche);
-    EXPECT_TRUE(menu("altazimutal.menu")->isVisible());
-    EXPECT_FALSE(montree("baraltaz"));
-    QTest::keyClick(menu("altazimutal.menu"), Qt::Key_Left);
-    QTest::keyClick(ouvert, Qt::Key_Return);
-    EXPECT_TRUE(montree("baraltaz"));
-    EXPECT_FALSE(QApplication::activePopupWidget());
 }
 
 // ---- boxes, and ends of the process: what the port saw is told on the way out
@@ -150,20 +118,6 @@ class sans_donnees : public fin_du_programme {
     sans_donnees() : fin_du_programme("/nulle-part") {}
     void SetUp() override {}
 };
-
-TEST_F(sans_donnees, the_box_names_the_file_and_lies_under_no_splash) {
-    const auto demarre = [this] {
-        a_la_boite([](QMessageBox& boite) {
-            for (const auto* w : QApplication::topLevelWidgets())
-                if (w != &boite && w->isVisible())
-                    std::fprintf(stderr, "%s\n", qPrintable(w->objectName()));
-            dit_et_accepte(boite);
-        });
-        s->demarre();
-    };
-    EXPECT_EXIT(demarre(), testing::ExitedWithCode(1),
-                "introuvable : [^\n]*\nfatale . fichier introuvable : /nulle-part/[^\n]* . 0\nfin : \\.");
-}
 
 // A notice comes before the main frame; the rest follows once the frame is on screen.
 TEST(lance, shows_its_notice_starts_and_runs_until_the_end) {

@@ -91,23 +91,6 @@ TEST_P(disposition, child_windows) {
     }
 }
 
-TEST_P(disposition, toolbars_show_all_their_texts_and_icons) {
-    EXPECT_EQ(principale()->size(), QSize(1000, 800)); // 15000 x 12000 twips
-    for (auto* c : fiche("frminterface").controles())
-        if (c->espece() == shell::genre::barre_outils)
-            c->visible(true);
-    QTest::qWait(50);
-    for (const auto* c : fiche("frminterface").controles()) {
-        if (c->espece() != shell::genre::outil)
-            continue;
-        auto* w = static_cast<QToolButton*>(piece("frminterface", c->nom().c_str()));
-        EXPECT_TRUE(w->isVisible()) << c->nom();
-        EXPECT_FALSE(w->icon().isNull()) << c->nom();
-        EXPECT_TRUE(w->parentWidget()->rect().contains(w->geometry())) << c->nom();
-        EXPECT_GE(w->width(), w->fontMetrics().horizontalAdvance(w->text())) << c->nom();
-    }
-}
-
 INSTANTIATE_TEST_SUITE_P(echelles, disposition, testing::Values("1", "1.5", "2"), [](const auto& essai) {
     return std::string{"s"} + std::to_string(static_cast<int>(std::atof(essai.param) * 100));
 });

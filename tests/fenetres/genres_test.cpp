@@ -1,8 +1,6 @@
 // Every kind of control as a widget, on a panel of the test's own.
 #include "fenetres.h"
 
-#include "echec.h"
-
 #include <QCheckBox>
 #include <QComboBox>
 #include <QListWidget>
@@ -10,8 +8,6 @@
 #include <QProgressBar>
 #include <QRadioButton>
 #include <QScrollBar>
-#include <QTemporaryDir>
-#include <fstream>
 
 namespace {
 
@@ -163,34 +159,6 @@ TEST_F(genres, texts_values_and_places) {
     EXPECT_EQ(le<QListWidget>("lbliste")->count(), 0);
 }
 
-TEST_F(genres, a_window_without_a_close_box_stays) {
-    fiche_fermee.montre();
-    auto* w = piece<QMdiSubWindow>("frmfermee");
-    EXPECT_FALSE(w->windowFlags() & Qt::WindowCloseButtonHint);
-    EXPECT_EQ(w->size(), QSize(200, 200));
-    w->close();
-    EXPECT_TRUE(w->isVisible());
-    piece<QMdiSubWindow>("frmessai")->close();
-    EXPECT_FALSE(fiche_essai.est_charge());
-}
-
-// The tick comes from the event loop again and again, never inside itself, and not once it is off.
-TEST_F(genres, a_timer_on_the_event_loop) {
-    int tics = 0;
-    int profondeur = 0;
-    tim.au_tic([&] {
-        EXPECT_EQ(++profondeur, 1);
-        QTest::qWait(30); // longer than its interval
-        --profondeur;
-        if (++tics == 3)
-            tim.marche(false);
-    });
-    tim.marche(true);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return tics == 3; }));
-    QTest::qWait(50);
-    EXPECT_EQ(tics, 3);
-}
-
 TEST_F(genres, a_surface_gives_mouse_and_keys_in_its_own_units) {
     std::vector<int> recus;
     carte.a_la_souris([&](souris ou) {
@@ -224,34 +192,6 @@ TEST_F(genres, a_surface_gives_mouse_and_keys_in_its_own_units) {
     }
     QTest::keyClick(w, Qt::Key_7, Qt::KeypadModifier);
     EXPECT_EQ(code, 103);
-}
-
-TEST_F(genres, pictures) {
-    auto* w = le<QWidget>("dessin");
-    QTest::mousePress(w, Qt::LeftButton);
-    EXPECT_EQ(lus(), "appui ");
-    QTest::mouseRelease(w, Qt::LeftButton);
-    EXPECT_EQ(lus(), "relachement ");
-    const auto charge = [](const std::string& chemin) {
-        return plateforme::courante.vue->charge_image(chemin);
-    };
-    const auto image = charge(DONNEES "/img/init_repos.gif");
-    dessin_bouton.image(image);
-    EXPECT_GT(image.largeur, 0);
-    EXPECT_EQ(image.ppp, 96);
-    const auto vu = w->grab().toImage();
-    EXPECT_NE(vu.pixelColor(vu.rect().center()), vu.pixelColor(0, 0));
-
-    const QTemporaryDir dossier;
-    const auto fautive = dossier.filePath("photo.jpg").toStdString();
-    const auto echoue = [&](base::cause c) {
-        EXPECT_EQ(essais::attend_echec(c, [&] { charge(fautive); }), fautive);
-    };
-    echoue(base::cause::fichier_introuvable);
-    for (const char* octets : {"", "GI", "un texte", "GIF89a\x10", "\xFF\xD8\xFF\xE0"}) {
-        std::ofstream{fautive} << octets;
-        echoue(base::cause::image_illisible);
-    }
 }
 
 TEST_F(genres, a_popup_hands_back_the_entry_chosen) {

@@ -63,36 +63,4 @@ TEST_F(notes, typed_saved_at_the_press_and_cleared) {
     EXPECT_EQ(champ()->toPlainText(), "");
 }
 
-// What the observer did not touch stays as it is: no-break blanks, bytes without a character.
-TEST_F(notes, a_letter_typed_changes_no_other_byte) {
-    const std::string etrange{"a\xA0: \x81 b \xAB\xA0x\xA0\xBB\r\n\r\nfin"};
-    ecrit(etrange + "\r\n");
-    ouvre("Observations");
-    QTest::keyClick(champ(), Qt::Key_End, Qt::ControlModifier);
-    QTest::keyClicks(champ(), "!");
-    clique("Frmnotes", "Picturesave");
-    EXPECT_EQ(octets(), etrange + "!\r\n");
-}
-
-TEST_F(notes, each_of_the_three_opens_once_and_comes_to_the_front) {
-    for (int fois = 0; fois < 2; ++fois)
-        for (const auto& [entree, nom] :
-             {std::pair{"Observations", "Frmnotes"}, {"Aide", "frmaide"}, {"propos", "frmcopyright"}}) {
-            ouvre(entree);
-            EXPECT_EQ(principale()->findChild<QMdiArea*>()->activeSubWindow(), piece(nom));
-            EXPECT_EQ(principale()->findChildren<QWidget*>(nom).size(), 1);
-        }
-    // The help's address is shown whole; a click closes.
-    for (const char* nom : {"frmaide", "frmcopyright"}) {
-        auto* adresse = piece<QLabel>(nom, "Label1");
-        EXPECT_EQ(adresse->text().remove(QChar{0x200B}).toStdString(),
-                  "file://" + (programme() / "aide/index.html").string());
-        const auto place =
-            adresse->fontMetrics().boundingRect(adresse->rect(), Qt::TextWordWrap, adresse->text());
-        EXPECT_TRUE(adresse->rect().contains(place)) << nom;
-        clique(nom, "cmdok1");
-        EXPECT_FALSE(piece(nom)->isVisible());
-    }
-}
-
 } // namespace

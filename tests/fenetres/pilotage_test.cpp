@@ -40,18 +40,6 @@ class pilotage : public essais::fenetres {
     }
 };
 
-TEST_F(pilotage, the_panel_opens_at_its_size_with_the_stop_in_hand) {
-    const auto* sous = bouton(nullptr);
-    EXPECT_TRUE(sous->isVisible());
-    EXPECT_EQ(sous->size(), QSize(367, 314)); // 5500 x 4710 twips
-    EXPECT_EQ(sous->windowTitle(), "Pilotage");
-    EXPECT_EQ(QApplication::focusWidget(), bouton("cmddstop"));
-    QTest::mouseClick(bouton("lblvit"), Qt::LeftButton);
-    EXPECT_EQ(sous->width(), 680); // 10200 twips
-    QTest::mouseDClick(bouton(nullptr), Qt::LeftButton, {}, {180, 10});
-    EXPECT_FALSE(sous->isMaximized());
-}
-
 // The jog starts at the release of its button and goes on after it; the stop acts at its press.
 TEST_F(pilotage, a_jog_by_the_mouse_until_the_stop_is_pressed) {
     appuie("cmdag");
@@ -75,13 +63,6 @@ TEST_F(pilotage, a_jog_by_the_mouse_until_the_stop_is_pressed) {
     EXPECT_EQ(cmdsens, 0);
 }
 
-TEST_F(pilotage, a_release_beside_the_button_starts_nothing) {
-    appuie("cmdag");
-    QTest::mouseMove(bouton("cmdag"), {-20, -20});
-    QTest::mouseRelease(bouton("cmdag"), Qt::LeftButton, {}, {-20, -20});
-    EXPECT_TRUE(port.ecritures.empty());
-}
-
 TEST_F(pilotage, the_keys_stop_a_jog) {
     for (const auto touche : {Qt::Key_Escape, Qt::Key_Space}) {
         const int avant = port.impulsions;
@@ -99,21 +80,6 @@ TEST_F(pilotage, the_keys_stop_a_jog) {
         EXPECT_LE(port.impulsions, avant + 23);
     }
     EXPECT_EQ(valeurs(), (std::vector{8, 12}));
-}
-
-TEST_F(pilotage, closing_the_panel_stops_the_jog) {
-    port.apres(20, [this] {
-        piece<QMdiSubWindow>("frmaltazpilot")->close();
-        EXPECT_FALSE(fiche("frmaltazpilot").est_charge());
-    });
-    auto* sous = bouton(nullptr);
-    clique("frmaltazpilot", "cmdhh");
-    EXPECT_EQ(cmdsens, 0);
-    EXPECT_LE(port.impulsions, 23);
-    EXPECT_FALSE(sous->isVisible());
-    clique("frminterface", "baraltaz(3)");
-    EXPECT_EQ(bouton(nullptr), sous) << "its widgets are kept for the whole run";
-    EXPECT_TRUE(sous->isVisible());
 }
 
 // Objects picked with real double clicks: a press, a release and a second press. The stop is pressed once the
@@ -149,21 +115,6 @@ TEST_F(pilotage, a_slew_is_stopped_by_the_mouse_and_by_both_keys) {
         EXPECT_FALSE(piece("frmDepl")->isVisible());
         objet += 15;
     }
-}
-
-// One burst for each second the computer's clock shows, until the stop is pressed.
-TEST_F(pilotage, the_sidereal_drive_follows_the_clock) {
-    frminterface::mnupilotageequa.clic();
-    clique("frmequapilot", "cmdgo");
-    QTest::qWait(300);
-    EXPECT_EQ(port.impulsions, 0) << "the clock stands still";
-    horloge.seconde = 1;
-    EXPECT_TRUE(QTest::qWaitFor([this] { return port.impulsions == 2; }, 1000)); // 15.04 / 6.48 half-steps
-    EXPECT_EQ(texte("frmequapilot", "txtessai"), "1");
-    presse("frmequapilot", "cmdstopgo");
-    horloge.seconde = 2;
-    QTest::qWait(300);
-    EXPECT_EQ(port.impulsions, 2);
 }
 
 // Counts what is painted anywhere in the main frame.

@@ -1,90 +1,11 @@
-// What of the panels no scenario can show: the hidden general bar, files of other hands, the help's address.
-#include "drive/etat_moteur.h"
+// What of the panels no scenario can show: files of other hands, the help's address.
 #include "essai.h"
 #include "fields/Frmnotes_champs.h"
-#include "fields/frmaltazpilot_champs.h"
-#include "fields/frmaltazsuivi_champs.h"
-#include "fields/frmconfig_champs.h"
-#include "fields/frmcoord_champs.h"
-#include "fields/frmequaconfig_champs.h"
-#include "fields/frmequapilot_champs.h"
-#include "fields/frminterface_champs.h"
-#include "fields/frmraquette_champs.h"
 #include "frame/aide.h"
-#include "frame/frminterface.h"
-#include "sky/heure.h"
-#include "slewing/etat_pointage.h"
 
 namespace {
 
-using namespace frminterface;
-
 class Programme : public essais::Essai {};
-
-// The bar stays hidden; shown by code, its buttons do what the other bars' and the menu's do, and more.
-TEST_F(Programme, barre_generale) {
-    programme::demarre();
-    const auto panneau = [](const char* nom) { return programme::registre().trouve_panneau(nom); };
-    bargeneral_boutons(5).clic();
-    EXPECT_FALSE(Frmnotes::fiche.est_charge()) << "hidden";
-    bargeneral.visible(true);
-    bargeneral_boutons(5).clic();
-    EXPECT_TRUE(Frmnotes::fiche.est_visible());
-    bargeneral_boutons(7).clic();
-    EXPECT_TRUE(panneau("frmcopyright")->est_visible());
-
-    barchoix_boutons(2).clic();
-    shell::panneau* const fermes[] = {&frmaltazpilot::fiche, &frmaltazsuivi::fiche, &frmconfig::fiche,
-                                      &frmequapilot::fiche, &frmequaconfig::fiche};
-    for (auto* p : fermes)
-        p->charge();
-    cmd_moteur::baselinepaddle = 4;
-    bargeneral_boutons(2).clic();
-    EXPECT_EQ(port.dernieres(2), (std::vector<banc::ecriture>{{890, 11}, {888, 0}}));
-    EXPECT_EQ(cmd_moteur::baselinepaddle, 0);
-    for (auto* p : fermes)
-        EXPECT_FALSE(p->est_charge()) << p->nom();
-    EXPECT_TRUE(frmcoord::fiche.est_charge() && heuretimer.marche()) << "the clock goes on";
-    EXPECT_TRUE(frmraquette::fiche.est_visible() && Timer.marche());
-    EXPECT_FALSE(baraltaz.visible() || barequa.visible() || mnutelescope.actif());
-    EXPECT_FALSE(bargeneral_boutons(3).actif() || bargeneral_boutons(4).actif() || fiche.est_maximise());
-    EXPECT_EQ(fiche.largeur(), 11000);
-    EXPECT_EQ(fiche.hauteur(), 8000);
-
-    bargeneral_boutons(1).clic();
-    EXPECT_FALSE(frmraquette::fiche.est_charge() || Timer.marche());
-    EXPECT_TRUE(bargeneral_boutons(3).actif() && bargeneral_boutons(4).actif() && mnutelescope.actif());
-    EXPECT_TRUE(fiche.est_maximise());
-    frmequapilot::fiche.charge();
-    frmcoord::fiche.decharge();
-    bargeneral_boutons(4).clic();
-    EXPECT_TRUE(baraltaz.visible() && frmcoord::fiche.est_visible() && pointing::panneaualtaz == true);
-    EXPECT_FALSE(frmequapilot::fiche.est_charge() || barequa.visible());
-}
-
-// The clock's panel at its load, before any tick: the day before in hour 0 of either season, summer from May
-// to October.
-TEST_F(Programme, heure_au_chargement) {
-    const struct {
-        int mois, jour, heure;
-        const char* heure_universelle;
-        int cbjour, decalage;
-    } cas[] = {{8, 15, 22, "20 30 15", 14, 2}, {8, 15, 0, "22 30 15", 13, 2}, {8, 15, 2, "0 30 15", 14, 2},
-               {8, 1, 0, "22 30 15", -1, 2},   {2, 10, 0, "22 30 15", 9, 1},  {2, 10, 1, "23 30 15", 8, 1},
-               {4, 30, 12, "10 30 15", 29, 1}, {5, 1, 12, "10 30 15", 0, 2},  {10, 31, 12, "10 30 15", 30, 2},
-               {11, 1, 12, "10 30 15", 0, 1}};
-    using namespace frmcoord;
-    for (const auto& c : cas) {
-        boucle.regle_horloge({2001, c.mois, c.jour, c.heure, 30, 15});
-        frmcoord::fiche.decharge();
-        frmcoord::fiche.charge();
-        EXPECT_EQ(txth.lit() + " " + txtmin.lit() + " " + txts.lit(), c.heure_universelle) << c.mois;
-        EXPECT_EQ(cbjour.position(), c.cbjour) << c.mois << " " << c.heure;
-        EXPECT_EQ(cbmois.position(), c.mois - 1);
-        EXPECT_EQ(general::decalageheure, c.decalage) << c.mois;
-        EXPECT_TRUE(optété.coche() == (c.decalage == 2) && opthivers.coche() == (c.decalage == 1));
-    }
-}
 
 // Whatever made them, lines are read, and saved as the program writes them; every byte survives.
 TEST_F(Programme, notes) {

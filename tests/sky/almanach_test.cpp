@@ -1,7 +1,6 @@
 #include "essai.h"
 #include "fields/frmconfig_champs.h"
 #include "fields/frmcoord_champs.h"
-#include "sky/almanach.h"
 #include "sky/temps_sideral.h"
 
 namespace {
@@ -9,30 +8,6 @@ namespace {
 using base::cause;
 using essais::attend_echec;
 using essais::machine;
-using general::lit_almanach;
-
-const char* const aout = "date/2001/aout/sg0.txt";
-
-TEST(almanach, fichiers_fautifs) {
-    const machine m;
-    frmcoord::cbjour.position(0);
-    frmcoord::cbmois.position(7);
-    frmcoord::cbannee.position(1);
-    std::string lignes;
-    for (int i = 1; i <= 32; ++i)
-        lignes += std::to_string(i) + ",0,0," + std::to_string(i) + "\r\n";
-    m.fichier(aout, lignes);
-    lit_almanach();
-    EXPECT_EQ(general::tsg0, 1);
-    m.fichier(aout, lignes + "33,0,0,0");
-    EXPECT_NE(attend_echec(cause::indice, lit_almanach).find("aout"), std::string::npos);
-    m.fichier(aout, "1,6,34\r\n");
-    attend_echec(cause::fin_de_fichier, lit_almanach);
-    m.fichier(aout, "1,6,547,0\r\n");
-    attend_echec(cause::depassement, lit_almanach);
-    std::filesystem::remove(m.donnees / aout);
-    attend_echec(cause::fichier_introuvable, lit_almanach);
-}
 
 TEST(temps_sideral, ecoule_et_base) {
     EXPECT_NEAR(general::tempsecoule(12, 0, 0, 0), 43318.28, 0.005);

@@ -109,29 +109,4 @@ TEST(conversion, plein_sud) {
     EXPECT_NEAR(general::decdeg, 30 + 48 - 90, 1e-6);
 }
 
-TEST(conversion, affichage_equatorial) {
-    const machine m;
-    const struct {
-        double ad, dec;
-        const char *h, *min, *signe, *deg, *minarc;
-    } cas[] = {{24.5, 0, "0", "30", "-", "0", "0"},
-               {-0.5, -12.5, "-1", "30", "-", "12", "30"},
-               {25.5, 0.25, "25", "30", "+", "0", "15"},
-               {5.125, -0.75, "5", "7.5", "-", "0", "45"}};
-    for (const auto& c : cas) {
-        general::adheures = c.ad;
-        general::decdeg = c.dec;
-        general::affiche_equa();
-        EXPECT_EQ(frmaltazsuivi::Txtad_h.lit(), c.h);
-        EXPECT_EQ(frmaltazsuivi::txtad_min.lit(), c.min);
-        EXPECT_EQ(frmaltazsuivi::txtsign.lit(), c.signe);
-        EXPECT_EQ(frmaltazsuivi::txtdec_deg.lit(), c.deg);
-        EXPECT_EQ(frmaltazsuivi::txtdec_min.lit(), c.minarc);
-        EXPECT_EQ(frmconfig::Txtad_h.lit() + " " + frmconfig::txtad_min.lit(),
-                  std::string{c.h} + " " + c.min);
-        EXPECT_EQ(frmconfig::txtsign.lit() + frmconfig::txtdec_deg.lit() + " " + frmconfig::txtdec_min.lit(),
-                  std::string{c.signe} + c.deg + " " + c.minarc);
-    }
-}
-
 } // namespace

@@ -1,12 +1,7 @@
-#include "essai.h"
-#include "fields/frmconfig_champs.h"
-#include "fields/frmcoord_champs.h"
-#include "sky/almanach.h"
-#include "sky/heure.h"
 #include "sky/horloge_equivalente.h"
-#include "sky/temps_sideral.h"
 
 #include <cmath>
+#include <gtest/gtest.h>
 #include <random>
 
 namespace {
@@ -61,41 +56,6 @@ TEST(horloge_equivalente, meme_ciel) {
         EXPECT_TRUE(montre > depuis_date({.annee = 2000, .mois = 6, .jour = 30}) &&
                     montre < depuis_date({.annee = 2001, .mois = 7, .jour = 2}));
     }
-}
-
-// What the program makes of the clock with the delivered almanac. It shows whole seconds; its almanac is
-// rounded to one.
-TEST(horloge_equivalente, temps_sideral_du_programme) {
-    essais::machine m;
-    std::int64_t maintenant = 0;
-    int verifies = 0;
-    for (const auto reel : instants(300)) {
-        maintenant = reel;
-        general::decalageheure = 0;
-        plateforme::horloge_equivalente horloge{[&] { return maintenant; },
-                                                [] { return int{general::decalageheure.valeur()}; }};
-        plateforme::courante.horloge = &horloge;
-        frmcoord::fiche.montre();
-        frmconfig::txtdegre.ecrit("0");
-        frmconfig::txtmin.ecrit("0");
-        maintenant += 250;
-        m.boucle.avance(100'000'000); // a tick of the program's clock
-        const auto montre = date_civile(instant_equivalent(reel) + 250);
-        EXPECT_EQ(frmcoord::txth.nombre(), montre.heure);
-        EXPECT_EQ(frmcoord::txtmin.nombre(), montre.minute);
-        EXPECT_EQ(frmcoord::txts.nombre(), montre.seconde);
-        // Where the civil day has begun and the universal one has not, the first of a month has no day
-        // before.
-        if (frmcoord::cbjour.position() + 1 == montre.jour &&
-            frmcoord::cbmois.position() + 1 == montre.mois) {
-            general::lit_almanach();
-            const double attendu = tsmg_2006(maintenant) - montre.milliseconde / 1000.0;
-            EXPECT_LT(ecart(general::lit_tsl(), attendu), 1) << reel;
-            ++verifies;
-        }
-        frmcoord::fiche.decharge();
-    }
-    EXPECT_GT(verifies, 285);
 }
 
 TEST(horloge_equivalente, decalage_et_marche) {

@@ -1,5 +1,4 @@
 #include "essai.h"
-#include "fields/frmconfig_champs.h"
 #include "sky/math.h"
 
 #include <cmath>
@@ -31,32 +30,6 @@ TEST(math, inverses) {
     attend_echec(cause::racine_negative, [] { math::arcsin(1.0000000001); });
     attend_echec(cause::division_par_zero, [] { math::arccos(0); });
     attend_echec(cause::racine_negative, [] { math::arccos(-1.0000000001); });
-}
-
-TEST(math, angle_d_un_pas) {
-    const essais::machine m;
-    const struct {
-        const char *pas, *rapport;
-        double angle;
-    } cas[] = {{"200", "144", 22.5},
-               {"200", "500", 6.48},
-               {"200", "2.5", 1620},
-               {"200", "3.5", 810},
-               {"400.5 pas", "100", 648.0 / 40.05}};
-    for (const auto& c : cas) {
-        frmconfig::txtpasaz.ecrit(c.pas);
-        frmconfig::txtRaz.ecrit(c.rapport);
-        frmconfig::txtpasalt.ecrit("200");
-        frmconfig::txtRalt.ecrit("1000");
-        EXPECT_NEAR(math::angleaz(), c.angle, 1e-11) << c.pas << ", " << c.rapport;
-        EXPECT_NEAR(math::anglealt(), 3.24, 1e-12);
-    }
-    frmconfig::txtRaz.ecrit("0.5");
-    attend_echec(cause::division_par_zero, [] { math::angleaz(); });
-    frmconfig::txtpasalt.ecrit("");
-    attend_echec(cause::division_par_zero, [] { math::anglealt(); });
-    frmconfig::txtRalt.ecrit("2147483648");
-    attend_echec(cause::depassement, [] { math::anglealt(); });
 }
 
 } // namespace

@@ -218,22 +218,6 @@ TEST_F(Panneau, BarsFireOnlyWhenTheyMove) {
     attend_echec(cause::indice, [] { cases(2); });
 }
 
-TEST_F(Panneau, TheViewHearsOfChangesOnly) {
-    fiche.montre();
-    EXPECT_EQ(vue.elevations, 0);
-    fiche.montre();
-    EXPECT_EQ(vue.elevations, 1) << "showing what is shown raises it";
-    texte.ecrit("a");
-    const int avant = vue.changements;
-    texte.ecrit("a");
-    bouton.visible(true);
-    barre.place(12);
-    cadre.legende("Cadre");
-    EXPECT_EQ(vue.changements, avant);
-    texte.ecrit("b");
-    EXPECT_EQ(vue.changements, avant + 1);
-}
-
 // ---- timers
 
 TEST_F(Panneau, ATickIsDueOneIntervalAfterTheStartOfTheLast) {

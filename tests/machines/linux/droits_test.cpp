@@ -86,19 +86,6 @@ TEST(Verrou, OneHolderPerNameAndFreeAtItsDeath) {
     close(tuyau[1]);
 }
 
-TEST(Verrou, HoldsAgainstAnotherUserToo) {
-    if (geteuid() != 0)
-        GTEST_SKIP() << "only root can become someone else";
-    const std::string nom = "velmoria-essai-" + std::to_string(getpid());
-    ASSERT_TRUE(verrouille(nom));
-    EXPECT_EQ(issue(enfante([&] {
-                  if (setuid(65534) != 0)
-                      return 2;
-                  return verrouille(nom) ? 1 : 0;
-              })),
-              0);
-}
-
 TEST(Droits, NoCapabilityIsLeftAndTheUserIsTheSame) {
     enum { bien, rien_a_perdre, refus, reste, autre_utilisateur };
     const int resultat = issue(enfante([]() -> int {

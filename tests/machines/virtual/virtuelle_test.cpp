@@ -1,9 +1,7 @@
 #include "machines/virtual/boucle_virtuelle.h"
 #include "machines/virtual/entete_image.h"
-#include "machines/virtual/scenario.h"
 
 #include <gtest/gtest.h>
-#include <sstream>
 
 using namespace plateforme;
 using namespace std::string_literals;
@@ -24,21 +22,6 @@ TEST(BoucleVirtuelle, RunsOrdersInOrderOfTimeAndLetsWhatComesDueMeanwhileWait) {
     b.cede();
     EXPECT_EQ(journal, "abcd");
     EXPECT_EQ(b.temps(), 115);
-}
-
-TEST(BoucleVirtuelle, TheCivilClockRunsOnThroughMidnight) {
-    boucle_virtuelle b;
-    b.regle_horloge({2000, 2, 28, 23, 59, 59, 900});
-    b.avance(100'000'000);
-    auto i = b.maintenant();
-    EXPECT_EQ(i.jour, 29);
-    EXPECT_EQ(i.heure + i.minute + i.seconde + i.milliseconde, 0);
-    b.avance(24LL * 3600 * 1'000'000'000 - 1'000'000);
-    i = b.maintenant();
-    EXPECT_EQ(i.mois, 2);
-    EXPECT_EQ(i.milliseconde, 999);
-    b.avance(1'000'000);
-    EXPECT_EQ(b.maintenant().mois, 3);
 }
 
 TEST(BoucleVirtuelle, AMotionThatNothingCanEndIsGivenUp) {
@@ -81,53 +64,4 @@ TEST(EnteteImage, RefusesWhatIsNoPictureOrCutShort) {
          {""s, "GIF89a\x01"s, "pas une image"s, "GIF89a\0\0\0\0"s, "\xFF\xD8"s, "\xFF\xD8\xFF\xE0\x00\x01"s,
           "\xFF\xD8\xFF\xC0\x00\x11\x08\x01"s, "\xFF\xD8\xFF\xC0\x00\x04\x08\x01"s})
         EXPECT_FALSE(lit_entete(octets));
-}
-
-// Lines, the status they end with, and the last that is printed or explained.
-TEST(Scenario, TellsWhatItShowsAndWhatItDoesNotUnderstand) {
-    const std::string popup =
-        "fichier messier.cat M1,GL,3305,6305\ndemarre\nclic frminterface.mnupointaltaz\n"
-        "choisit frmaltazpointage.lbCatalogue 2\n";
-    const struct {
-        std::string lignes;
-        int statut;
-        const char* dit;
-    } cas[] = {
-        {"saute haut", 1, "x:1: commande inconnue : \"saute\""},
-        {"\r\n # rien\ndemarre\ndemarre", 1, "x:4: le programme a déjà démarré"},
-        {"clic frmcoord.txth", 1, "la commande ne va pas à ce contrôle : \"frmcoord.txth\""},
-        {"souris frmcoord gauche 1 1", 1, "aucun panneau de ce nom n'a de dessin : \"frmcoord\""},
-        {"souris frmCercle milieu 1 1", 1, "gauche ou droit était attendu : \"milieu\""},
-        {"souris frmCercle gauche 1 1e10", 1, "une place en twips était attendue : \"1e10\""},
-        {"ferme frmrien", 1, "aucun panneau ne porte ce nom : \"frmrien\""},
-        {"raquette 256", 1, "code de raquette hors de 0 à 255 : 256"},
-        {"raquette 2.5", 1, "un nombre entier était attendu : \"2.5\""},
-        {"a 1ms", 1, "il manque la commande"},
-        {"fichier ../x y", 1, "un fichier du dossier de données était attendu : \"../x\""},
-        {"donnees nulle/part", 1, "dossier de données : nulle/part : No such file or directory"},
-        {popup + "droit frmaltazpointage.lbObjets 0\nmenu mnurien", 1,
-         "le menu n'a pas cette entrée : \"mnurien\""},
-        {popup + "droit frmaltazpointage.lbObjets 0\nmontre cmdsens", 0, "cmdsens = 0"},
-        {popup + "a 1ms droit frmaltazpointage.lbObjets 0\na 1ms menu mnugalaxies\navance 2ms\n"
-                 "montre frmaltazpointage.mnugalaxies.coche",
-         0, "frmaltazpointage.mnugalaxies.coche = 1"},
-        {"montre frmcoord.rien", 1, "rien ne porte ce nom : \"frmcoord.rien\""},
-        {"montre frmaltazsuivi.updowntaux", 1, "rien ne porte ce nom : \"frmaltazsuivi.updowntaux\""},
-        {"montre frmcoord.txth.rien", 1, "rien ne porte ce nom : \"frmcoord.txth.rien\""},
-        {"montre frminterface.barchoix", 0, "frminterface.barchoix = 1"},
-        {"montre frmaltazpointage.lbCatalogue.position", 0, "frmaltazpointage.lbCatalogue.position = 2"},
-        {"montre frmDepl.ProgressBaraz.valeur", 0, "frmDepl.ProgressBaraz.valeur = 0"},
-        {"coche frmcoord.opthivers 1\nmontre frmcoord.opthivers\nquitte\nsaute", 0, "frmcoord.opthivers = 1"},
-        {"demarre\nclic frminterface.barchoix(2)\nfichier config_altaz.ini 1|2\nmontre monture", 0,
-         "monture az=0 alt=0"},
-        {"demarre\nclic frminterface.barchoix(1)\nfichier config_equa.ini -\nmontre monture", 0,
-         "monture az=0 alt=0"},
-        {"attend cmdsens 0\nattend cmdsens 1", 1, "cmdsens : \"1\" était attendu, la réponse est \"0\""},
-    };
-    for (const auto& c : cas) {
-        std::istringstream lignes{c.lignes};
-        std::ostringstream sortie;
-        EXPECT_EQ(joue({lignes, "x", "", VELMORIA_DONNEES, sortie, sortie}), c.statut) << c.lignes;
-        EXPECT_TRUE(sortie.str().ends_with(c.dit + "\n"s)) << sortie.str();
-    }
 }
