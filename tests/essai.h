@@ -55,16 +55,14 @@ class dossier_prive {
 
 class vue_muette final : public plateforme::vue {
   public:
-    void panneau_change(const shell::panneau&) override { ++changements; }
-    void eleve(const shell::panneau&) override { ++elevations; }
+    void panneau_change(const shell::panneau&) override {}
+    void eleve(const shell::panneau&) override {}
     void repeint(const shell::panneau&) override {}
-    void controle_change(const shell::controle&, plateforme::aspect) override { ++changements; }
+    void controle_change(const shell::controle&, plateforme::aspect) override {}
     shell::entree* ouvre_menu(shell::entree&, const shell::entree*) override { return choix; }
     void message(const std::string&) override {}
     plateforme::image charge_image(const std::filesystem::path&) override { return photo; }
 
-    int changements = 0;
-    int elevations = 0;
     plateforme::image photo{1, 10, 10, 96}; ///< what every picture is
     shell::entree* choix = nullptr;         ///< what the next popups answer
 };

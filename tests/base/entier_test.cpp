@@ -30,15 +30,3 @@ TEST(Entier, WhatDoesNotFitIsFatal) {
     essais::attend_echec(base::cause::division_par_zero, [] { entier16{1} / entier16{0}; });
     essais::attend_echec(base::cause::division_par_zero, [] { entier16{1} % entier16{0}; });
 }
-
-TEST(Entier, TakesTheWiderOfTwoWidthsAndCutsTowardZero) {
-    EXPECT_EQ(entier16{30000} + entier32{30000}, entier32{60000});
-    EXPECT_EQ(entier16{-7} / entier16{2}, entier16{-3});
-    EXPECT_EQ(entier16{-350} % entier16{360}, entier16{-350});
-    EXPECT_LT(entier16{-1}, entier16{0});
-    entier32 n{5};
-    ++n;
-    n += 10;
-    n -= entier16{1};
-    EXPECT_EQ(n.valeur(), 15);
-}

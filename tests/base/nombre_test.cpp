@@ -53,12 +53,6 @@ TEST(Texte, IsTheShortestPlainDecimal) {
     EXPECT_EQ(base::texte_signe(0.0), " 0");
 }
 
-TEST(Texte, ReadsBackToTheSameDouble) {
-    for (double x : {1.0 / 3, 3.14159265358979, 1e300 / 7, 2.2250738585072014e-308, 5e-324, 1296000.0 / 7,
-                     1.7976931348623157e308})
-        EXPECT_EQ(nombre(texte(x)), x);
-}
-
 TEST(Arithmetique, ZeroDivisorNegativeRootAndPlaceOutsideATableAreFatal) {
     EXPECT_EQ(base::divise(1, 4), 0.25);
     EXPECT_EQ(base::racine(6.25), 2.5);

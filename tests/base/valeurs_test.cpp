@@ -50,38 +50,9 @@ TEST_F(Valeurs, AreTakenAsNumbersTextsAndBooleans) {
     EXPECT_EQ(f.texte(), "été");
 }
 
-TEST_F(Valeurs, ANumberComesBackIntoAFieldAsItsPlainText) {
-    auto f = de("045\r\n 2.50\r\n1e3\r\n12abc\r\n-0\r\n\r\n+7\r\n1,5\r\n");
-    for (const char* attendu : {"45", "2.5", "1000", "12abc", "0", "", "7", "1", "5"})
-        EXPECT_EQ(f.champ(), attendu);
-    EXPECT_TRUE(f.fini());
-}
-
-TEST_F(Valeurs, QuotesKeepCommas) {
-    auto f = de(" \"Chiens de chasse, les\" ,CVn\r\n\"\" , \"a\"reste,x\r\n\"ouvert");
-    for (const char* attendu : {"Chiens de chasse, les", "CVn", "", "a", "x", "ouvert"})
-        EXPECT_EQ(f.texte_entre_guillemets(), attendu);
-    EXPECT_TRUE(f.fini());
-    EXPECT_EQ(de("\"a\"\r\n").texte(), "\"a\"") << "quotes mean nothing in settings files";
-}
-
 TEST_F(Valeurs, TheAlmanacPartsThemByBlanksToo) {
     auto f = de("1, 6 39  52\r\n  2,6,43,49 \r\n3\t6\t47\t45\n", valeurs::separateurs::virgule_ou_blanc);
     for (int attendu : {1, 6, 39, 52, 2, 6, 43, 49, 3, 6, 47, 45})
         EXPECT_EQ(f.nombre16(), attendu);
     EXPECT_TRUE(f.fini());
-}
-
-TEST_F(Valeurs, AreWrittenOneALine) {
-    valeurs::ecrivain e;
-    e.texte("été α");
-    e.texte("");
-    e.nombre(250.0);
-    e.nombre(-2.5);
-    e.nombre(base::entier32{0});
-    e.booleen(true);
-    e.booleen(false);
-    e.enregistre(dossier.chemin / "e.ini");
-    EXPECT_EQ(base::lit_fichier(dossier.chemin / "e.ini"),
-              "\xE9t\xE9 ?\r\n\r\n 250 \r\n-2.5 \r\n 0 \r\nVrai\r\nFaux\r\n");
 }

@@ -3,17 +3,13 @@
 #include "fenetres.h"
 
 #include "base/octets.h"
-#include "drive/position.h"
 #include "fields/frmaltazpilot_champs.h"
-#include "fields/frmcoord_champs.h"
-#include "fields/frminterface_champs.h"
 #include "machines/qt/bench/composition.h"
 #include "machines/qt/bench/fenetre_banc.h"
 #include "sky/heure.h"
 
 #include <QLabel>
 #include <QPushButton>
-#include <QSlider>
 #include <QTemporaryDir>
 #include <sstream>
 
@@ -72,8 +68,6 @@ class banc_d_essai : protected machine_du_banc, public essais::fenetres {
         fenetre->rafraichit();
     }
 
-    int code() { return etabli.port().code(); }
-
     std::unique_ptr<banc::fenetre_banc> fenetre;
 };
 
@@ -127,25 +121,6 @@ TEST_F(banc_d_essai, a_jog_is_counted_and_recorded) {
     presse("enregistre");
     EXPECT_EQ(lu("etat_vcd"), "Impossible d'écrire /nulle-part/lignes.vcd");
     EXPECT_TRUE(le<QLineEdit>("chemin_vcd")->isEnabled());
-}
-
-// ---- the paddle
-
-TEST_F(banc_d_essai, a_held_key_turns_the_mount_until_it_is_released) {
-    frminterface::barchoix_boutons(1).clic();
-    frminterface::barequa_boutons(2).clic();
-    QTest::mousePress(le<QPushButton>("raquette_droite"), Qt::LeftButton);
-    EXPECT_EQ(code(), 9) << "medium speed at first";
-    // The scan comes within its 100 ms, and its loop runs inside; released from a yield of it.
-    QTimer::singleShot(400,
-                       [this] { QTest::mouseRelease(le<QPushButton>("raquette_droite"), Qt::LeftButton); });
-    QTest::qWait(600);
-    const auto n = etabli.mount().compte();
-    EXPECT_GT(n.az0, 0u);
-    EXPECT_EQ(n.az8 + n.alt0 + n.alt2, 0u);
-    QTest::qWait(250);
-    EXPECT_EQ(etabli.mount().compte(), n) << "released: no further pulse";
-    EXPECT_EQ(code(), 11);
 }
 
 } // namespace

@@ -15,7 +15,6 @@ using namespace frminterface;
 
 class demarrage : public essais::fenetres {
   protected:
-    using essais::fenetres::fenetres;
     bool montree(const char* barre) { return piece("frminterface", barre)->isVisible(); }
     QMenu* menu(const char* nom) { return principale()->findChild<QMenu*>(nom); }
 
@@ -72,7 +71,7 @@ void dit_et_accepte(QMessageBox& boite) {
 
 class fin_du_programme : public demarrage {
   protected:
-    explicit fin_du_programme(const char* donnees = DONNEES) : demarrage("1", donnees) {
+    fin_du_programme() {
         GTEST_FLAG_SET(death_test_style, "threadsafe");
         plateforme::qt::a_la_fin([this] {
             std::fprintf(stderr, "fin :");
@@ -106,46 +105,6 @@ TEST_F(fin_du_programme, a_failure_shows_one_box_freezes_the_program_and_ends_it
         base::fatale(base::cause::division_par_zero, "essai");
     };
     EXPECT_EXIT(echoue(), testing::ExitedWithCode(1), "fatale . division par zéro : essai . 0\nfin : \\.");
-    const auto echoue_deux_fois = [] {
-        a_la_boite([](QMessageBox&) { base::fatale(base::cause::depassement, "seconde"); });
-        base::fatale(base::cause::division_par_zero, "essai");
-    };
-    EXPECT_EXIT(echoue_deux_fois(), testing::ExitedWithCode(1), "capacité : seconde\nfin : \\.");
-}
-
-class sans_donnees : public fin_du_programme {
-  protected:
-    sans_donnees() : fin_du_programme("/nulle-part") {}
-    void SetUp() override {}
-};
-
-// A notice comes before the main frame; the rest follows once the frame is on screen.
-TEST(lance, shows_its_notice_starts_and_runs_until_the_end) {
-    GTEST_FLAG_SET(death_test_style, "threadsafe");
-    static char nom[] = "essais";
-    static char* arguments[] = {nom, nullptr};
-    const auto lance = [] {
-        essais::port_temoin port;
-        essais::horloge_arretee horloge;
-        qAddPreRoutine([] { a_la_boite(dit_et_accepte); });
-        plateforme::qt::lance(1, arguments,
-                              {.port = port,
-                               .horloge = horloge,
-                               .attente = [](std::int64_t) {},
-                               .avis = "<i>un avis</i>",
-                               .ensuite =
-                                   [] {
-                                       std::fprintf(stderr, "ensuite %d\n", fiche.est_visible());
-                                       QTimer::singleShot(0, [] { Quitter.clic(); });
-                                   },
-                               .donnees = DONNEES});
-    };
-    EXPECT_EXIT(lance(), testing::ExitedWithCode(0), "message . <i>un avis</i> . 0\nensuite 1\n$");
-    const auto refuse = [] {
-        qAddPreRoutine([] { a_la_boite(dit_et_accepte); });
-        std::_Exit(plateforme::qt::refuse(1, arguments, "port occupé"));
-    };
-    EXPECT_EXIT(refuse(), testing::ExitedWithCode(1), "message . port occupé . 0\n$");
 }
 
 } // namespace

@@ -28,23 +28,13 @@ constinit champ_texte ligne{fiche_essai, "ligne", {150, 5500, 4000, 375}};
 constinit champ_texte notes{fiche_essai, "notes", {150, 2300, 4000, 1500}, {.traits = multiligne}};
 constinit champ_surface carte{fiche_essai, "carte", {4600, 2000, 3000, 3000}};
 constinit champ_image dessin_bouton{fiche_essai, "dessin", {150, 4000, 600, 600}};
-constinit entree mnu{fiche_essai, "mnu", {.legende = "menu", .traits = surgissant}};
-constinit entree mnu_un{fiche_essai, "mnu_un", {.legende = "un", .cadre = &mnu}};
-constinit entree mnu_trait{fiche_essai, "mnu_trait", {.cadre = &mnu, .traits = separateur}};
-constinit entree mnu_deux{fiche_essai, "mnu_deux", {.legende = "deux", .cadre = &mnu}};
-constinit entree mnu_fils{fiche_essai, "mnu_fils", {.legende = "fils", .cadre = &mnu_deux}};
-
-constinit panneau fiche_fermee{
-    "frmfermee", "Sans fermeture", 3000, 3000, {.boite_de_fermeture = fermeture::aucune}};
-constinit minuteur tim{fiche_fermee, "tim", {.intervalle = 10}};
 
 class genres : public essais::fenetres {
   protected:
     void SetUp() override {
         essais::fenetres::SetUp();
         fiche_essai.construit(shell::liste(lbliste, cbliste, chk, cadre, opt, hb, barre, jauge, ligne, notes,
-                                           carte, dessin_bouton, mnu, mnu_un, mnu_trait, mnu_deux, mnu_fils));
-        fiche_fermee.construit(shell::liste(tim));
+                                           carte, dessin_bouton));
         const auto note = [this](const char* acte) { return [this, acte] { actes += acte; }; };
         lbliste.au_clic(note("clic "));
         lbliste.au_double_clic(note("double "));
@@ -58,9 +48,6 @@ class genres : public essais::fenetres {
         barre.au_changement(note("barre "));
         dessin_bouton.a_l_appui(note("appui "));
         dessin_bouton.au_relachement(note("relachement "));
-        mnu_un.au_clic(note("un "));
-        mnu_deux.au_clic(note("deux "));
-        mnu_fils.au_clic(note("fils "));
         lbliste.ajoute({"zéro", "un", "deux"});
         cbliste.ajoute({"a", "b", "c"});
         fiche_essai.montre();
@@ -100,7 +87,11 @@ TEST_F(genres, a_list_by_mouse_and_keys) {
     EXPECT_EQ(lus(), "");
 }
 
-TEST_F(genres, choices_and_bars) {
+TEST_F(genres, choices_bars_and_pictures) {
+    QTest::mousePress(le<QWidget>("dessin"), Qt::LeftButton);
+    EXPECT_EQ(lus(), "appui ");
+    QTest::mouseRelease(le<QWidget>("dessin"), Qt::LeftButton);
+    EXPECT_EQ(lus(), "relachement ");
     auto* cb = le<QComboBox>("cbliste");
     EXPECT_EQ(cb->currentIndex(), -1);
     QTest::keyClick(cb, Qt::Key_Down);
@@ -192,31 +183,6 @@ TEST_F(genres, a_surface_gives_mouse_and_keys_in_its_own_units) {
     }
     QTest::keyClick(w, Qt::Key_7, Qt::KeypadModifier);
     EXPECT_EQ(code, 103);
-}
-
-TEST_F(genres, a_popup_hands_back_the_entry_chosen) {
-    const auto ouvre = [this](std::function<void(QMenu&)> f) {
-        au_menu([f](QMenu& m) {
-            ASSERT_EQ(m.objectName(), "mnu");
-            f(m);
-        });
-        mnu.ouvre(&mnu_un);
-        return lus();
-    };
-    EXPECT_EQ(ouvre([](QMenu& m) {
-                  EXPECT_TRUE(m.actions()[1]->isSeparator());
-                  EXPECT_EQ(m.defaultAction(), m.actions()[0]);
-                  QTest::keyClick(&m, Qt::Key_Escape);
-              }),
-              "");
-    EXPECT_EQ(ouvre([](QMenu& m) { choisit(m.actions()[0]); }), "un ");
-    EXPECT_EQ(ouvre([](QMenu& m) { choisit(m.actions()[2]); }), "deux ");
-    EXPECT_EQ(ouvre([](QMenu& m) {
-                  QTest::keyClick(&m, Qt::Key_Up);
-                  QTest::keyClick(&m, Qt::Key_Right);
-                  QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
-              }),
-              "fils ");
 }
 
 } // namespace

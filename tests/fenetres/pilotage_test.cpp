@@ -117,36 +117,4 @@ TEST_F(pilotage, a_slew_is_stopped_by_the_mouse_and_by_both_keys) {
     }
 }
 
-// Counts what is painted anywhere in the main frame.
-class peintures final : public QObject {
-  public:
-    peintures() { qApp->installEventFilter(this); }
-    bool eventFilter(QObject*, QEvent* e) override {
-        nombre += e->type() == QEvent::Paint;
-        return false;
-    }
-    int nombre = 0;
-};
-
-TEST_F(pilotage, a_tick_that_changes_nothing_paints_nothing) {
-    clique("frminterface", "baraltaz(6)");
-    piece<QMdiSubWindow>("frmconfig")->close();
-    EXPECT_TRUE(fiche("frmconfig").est_charge() && !piece("frmconfig")->isVisible()) << "hidden only";
-    clique("frminterface", "baraltaz(6)");
-    EXPECT_TRUE(piece("frmconfig")->isVisible());
-    principale()->setFocus(); // no field with a blinking cursor
-    const auto tics = [this](int n) {
-        const int avant = horloge.lectures;
-        ASSERT_TRUE(QTest::qWaitFor([&] { return horloge.lectures >= avant + n; }));
-    };
-    tics(3); // all is on screen
-    const peintures p;
-    tics(10);
-    EXPECT_EQ(p.nombre, 0);
-    general::posaz += 1; // its third field and the full value
-    tics(2);
-    EXPECT_GE(p.nombre, 2);
-    EXPECT_LE(p.nombre, 12) << "and little around them";
-}
-
 } // namespace

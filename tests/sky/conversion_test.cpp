@@ -1,11 +1,12 @@
 #include "drive/position.h"
 #include "essai.h"
-#include "fields/frmaltazsuivi_champs.h"
 #include "fields/frmconfig_champs.h"
 #include "fields/frmcoord_champs.h"
 #include "sky/affichage.h"
 #include "sky/almanach.h"
 #include "sky/conversion.h"
+#include "sky/math.h"
+#include "sky/temps_sideral.h"
 
 #include <cmath>
 #include <fstream>
@@ -13,6 +14,8 @@
 
 namespace {
 
+using base::cause;
+using essais::attend_echec;
 using essais::machine;
 
 // Site and time of an instant at which the local sidereal time is so many seconds.
@@ -107,6 +110,53 @@ TEST(conversion, plein_sud) {
     general::posaz = 648001;
     general::calcul_equa();
     EXPECT_NEAR(general::decdeg, 30 + 48 - 90, 1e-6);
+}
+
+TEST(temps_sideral, ecoule_et_base) {
+    EXPECT_NEAR(general::tempsecoule(12, 0, 0, 0), 43318.28, 0.005);
+    EXPECT_NEAR(general::tempsecoule(0, 0, 1, 500) * 0.99726957, 1.5, 1e-12);
+    EXPECT_EQ(general::tslbase(2, 20, 100), 660);
+    EXPECT_EQ(general::tslbase(-2, 20, 0), -400) << "the sign of the degrees does not reach the minutes";
+    EXPECT_EQ(general::tslbase(0.00625, 0, 0), 2) << "1.5 rounds to the even number";
+    attend_echec(cause::depassement, [] { general::tslbase(1e8, 0, 0); });
+}
+
+TEST(temps_sideral, un_jour_ote_une_fois) {
+    const machine m;
+    for (auto* champ :
+         {&frmcoord::txth, &frmcoord::txtmin, &frmcoord::txts, &frmconfig::txtdegre, &frmconfig::txtmin})
+        champ->ecrit("");
+    const struct {
+        const char* t0;
+        double tsl;
+        int tslsec;
+    } cas[] = {{"86399", 86399, 86399}, {"86400", 0, 0}, {"172801", 86401, 1}, {"-5", -5, -5}};
+    for (const auto& c : cas) {
+        frmcoord::txtessai.ecrit(c.t0);
+        const double tsl = general::lit_tsl();
+        EXPECT_EQ(tsl, c.tsl);
+        general::fixe_tslsec(tsl);
+        EXPECT_EQ(general::tslsec, c.tslsec);
+    }
+    general::fixe_tslsec(86399.5);
+    EXPECT_EQ(general::tslsec, 0) << "the rounded value is folded, not the time";
+    general::fixe_tslsec(2.5);
+    EXPECT_EQ(general::tslsec, 2);
+    frmcoord::txtms.ecrit("32768");
+    attend_echec(cause::depassement, general::lit_tsl);
+}
+
+TEST(math, inverses) {
+    EXPECT_DOUBLE_EQ(math::arcsin(0.5), 0.5235987755982989);
+    EXPECT_DOUBLE_EQ(math::arcsin(-0.5), -0.5235987755982989);
+    EXPECT_NEAR(math::arccos(0.5), 1.0471975512, 1e-10);
+    EXPECT_NEAR(math::arccos(-0.5), -1.0471975512, 1e-10) << "the arccosine less pi";
+    EXPECT_EQ(math::arccos(1), 0);
+    attend_echec(cause::division_par_zero, [] { math::arcsin(1); });
+    attend_echec(cause::division_par_zero, [] { math::arcsin(-1); });
+    attend_echec(cause::racine_negative, [] { math::arcsin(1.0000000001); });
+    attend_echec(cause::division_par_zero, [] { math::arccos(0); });
+    attend_echec(cause::racine_negative, [] { math::arccos(-1.0000000001); });
 }
 
 } // namespace

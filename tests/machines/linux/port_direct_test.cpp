@@ -46,25 +46,6 @@ class faux_dev_port {
 
 } // namespace
 
-#if defined(__x86_64__) || defined(__i386__)
-TEST(Port, IopermAsksFor888To890AndIsEnough) {
-    static unsigned long premier, nombre;
-    static int permis;
-    const auto p = prend_port(
-        [](unsigned long a, unsigned long n, int oui) {
-            premier = a, nombre = n, permis = oui;
-            return 0;
-        },
-        "/nulle/part");
-    EXPECT_EQ(premier, 888u);
-    EXPECT_EQ(nombre, 3u);
-    EXPECT_EQ(permis, 1);
-    EXPECT_TRUE(p.reel);
-    EXPECT_NE(p.acces, nullptr);
-    EXPECT_EQ(explication(p), "");
-}
-#endif
-
 TEST(Port, AFileTakesAndShowsEachRegisterAtItsPlace) {
     faux_dev_port fichier;
     const auto p = prend_port(refuse<ENOSYS>, fichier.chemin());
