@@ -32,7 +32,7 @@ Qt::Orientation sens(const controle& c) {
 
 QWidget* texte(champ_texte& c, QWidget* parent) {
     if (c.a(multiligne)) {
-        auto* w = new QPlainTextEdit{parent};
+        auto* w = new page_de_texte{parent};
         w->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
         w->setTabChangesFocus(true);
         w->setContextMenuPolicy(Qt::NoContextMenu); // its entries would not be in French
@@ -43,7 +43,7 @@ QWidget* texte(champ_texte& c, QWidget* parent) {
                          [w, &c] { c.saisit(lu(lignes_de(*w).replace("\n", "\r\n"))); });
         return w;
     }
-    auto* w = new QLineEdit{parent};
+    auto* w = new ligne_de_texte{parent};
     w->setContextMenuPolicy(Qt::NoContextMenu);
     w->setAlignment((c.a(centre) ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignVCenter);
     QObject::connect(w, &QLineEdit::textEdited, w, [&c](const QString& t) { c.saisit(lu(t)); });

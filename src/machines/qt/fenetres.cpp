@@ -5,6 +5,7 @@
 #include "machines/qt/images.h"
 #include "machines/qt/menus.h"
 #include "machines/qt/mesures.h"
+#include "machines/qt/style.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -12,6 +13,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenuBar>
+#include <QPainter>
 #include <QScreen>
 #include <QStatusBar>
 #include <QToolBar>
@@ -76,17 +78,28 @@ void range(fenetre& f, const controle& c, QObject* piece) {
     f.pieces[static_cast<std::size_t>(c.rang())] = piece;
 }
 
-// A window with a drawing is black to its edges, and all its keys go to the drawing.
-void cede_au_dessin(const fenetre& f, QWidget& contenu) {
-    const auto& tous = f.fiche->controles();
-    const auto est_surface = [](const controle* c) { return c->espece() == genre::surface; };
-    if (std::none_of(tous.begin(), tous.end(), est_surface))
+// What a drawing stands on. A style sheet would keep the colours of the night from its controls.
+class fond_noir final : public QWidget {
+  public:
+    using QWidget::QWidget;
+
+  protected:
+    void paintEvent(QPaintEvent* e) override { QPainter{this}.fillRect(e->rect(), Qt::black); }
+};
+
+bool a_un_dessin(const panneau& p) {
+    const auto& tous = p.controles();
+    return std::any_of(tous.begin(), tous.end(),
+                       [](const controle* c) { return c->espece() == genre::surface; });
+}
+
+// All keys of a window with a drawing go to the drawing.
+void cede_au_dessin(const fenetre& f) {
+    if (!a_un_dessin(*f.fiche))
         return;
-    contenu.setObjectName("fond");
-    contenu.setStyleSheet("#fond { background: black }"); // of itself alone: its controls keep the palette
-    for (const auto* c : tous)
+    for (const auto* c : f.fiche->controles())
         if (auto* piece = f.pieces[static_cast<std::size_t>(c->rang())];
-            piece && piece->isWidgetType() && !est_surface(c))
+            piece && piece->isWidgetType() && c->espece() != genre::surface)
             static_cast<QWidget*>(piece)->setFocusPolicy(Qt::NoFocus);
 }
 
@@ -99,7 +112,7 @@ void remplit(fenetre& f, QWidget* contenu) {
         if (c->espece() != genre::entree)
             range(f, *c, fabrique(*c, parent));
     }
-    cede_au_dessin(f, *contenu);
+    cede_au_dessin(f);
 }
 
 // A tool's text stands under its icon: a bubble that repeats it would only cost a repaint.
@@ -152,7 +165,7 @@ QWidget* principal(fenetre& f) {
     f.zone = new QMdiArea{w};
     f.zone->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     f.zone->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    f.zone->setBackground(QColor{0x8A, 0x90, 0x99});
+    f.zone->setBackground(fond_de_la_zone());
     w->setCentralWidget(f.zone);
     for (auto* c : f.fiche->controles()) {
         if (c->espece() == genre::barre_outils)
@@ -170,7 +183,7 @@ QWidget* principal(fenetre& f) {
 
 QWidget* enfant(fenetre& f, QMdiArea& zone) {
     auto* w = new sous_fenetre{*f.fiche, traits_de(f.fiche->options())};
-    auto* contenu = new QWidget{w};
+    auto* contenu = a_un_dessin(*f.fiche) ? new fond_noir{w} : new QWidget{w};
     w->setWidget(contenu);
     remplit(f, contenu);
     zone.addSubWindow(w);

@@ -1,6 +1,7 @@
 #include "machines/qt/peintre.h"
 
 #include "machines/qt/mesures.h"
+#include "machines/qt/nuit.h"
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -15,7 +16,7 @@ constexpr int phases = 4;            // places of a small circle within a pixel,
 constexpr double rayon_copie = 24;   // logical pixels: larger circles are painted one by one
 constexpr double corps_symbole = 16; // 12 points at 96 pixels to the inch
 
-QRgb teinte(couleur c) { return qRgb(c.r, c.v, c.b); }
+QRgb couleur_de(couleur c) { return teinte_de_carte(c).rgb(); }
 
 // The symbol font's small letters, a to z.
 QString en_grec(const std::string& t) {
@@ -76,7 +77,7 @@ void peintre::ligne(jour& j, const primitive& p) {
     const auto autour = QRectF{l.p1(), l.p2()}.normalized().adjusted(-2, -2, 2, 2);
     if (!autour.intersects(j.cadre))
         return;
-    j.p.setPen(QPen{QColor{teinte(p.contour)}, j.trait, Qt::SolidLine, Qt::FlatCap});
+    j.p.setPen(QPen{QColor{couleur_de(p.contour)}, j.trait, Qt::SolidLine, Qt::FlatCap});
     j.p.drawLine(l);
 }
 
@@ -88,8 +89,8 @@ void peintre::cercle(jour& j, const primitive& p) {
     if (!QRectF{x - large, y - large, 2 * large, 2 * large}.intersects(j.cadre))
         return;
     if (r > rayon_copie * densite_) {
-        j.p.setPen(QPen{QColor{teinte(p.contour)}, j.trait});
-        j.p.setBrush(p.plein ? QBrush{QColor{teinte(p.fond)}} : Qt::NoBrush);
+        j.p.setPen(QPen{QColor{couleur_de(p.contour)}, j.trait});
+        j.p.setBrush(p.plein ? QBrush{QColor{couleur_de(p.fond)}} : Qt::NoBrush);
         j.p.drawEllipse(QPointF{x, y}, r, r);
         return;
     }
@@ -102,8 +103,8 @@ void peintre::cercle(jour& j, const primitive& p) {
 
 // A circle about the middle pixel of its image, the centre at a quarter of it.
 const QImage& peintre::pastille(const jour& j, const primitive& p, int phase_x, int phase_y) {
-    auto& image =
-        pastilles_[{p.rayon, teinte(p.contour), p.plein ? teinte(p.fond) : 0, p.plein, phase_x, phase_y}];
+    auto& image = pastilles_[{p.rayon, couleur_de(p.contour), p.plein ? couleur_de(p.fond) : 0, p.plein,
+                              phase_x, phase_y}];
     if (!image.isNull())
         return image;
     const double r = p.rayon * j.pixels_par_twip;
@@ -112,8 +113,8 @@ const QImage& peintre::pastille(const jour& j, const primitive& p, int phase_x, 
     image.fill(Qt::transparent);
     QPainter pinceau{&image};
     pinceau.setRenderHint(QPainter::Antialiasing);
-    pinceau.setPen(QPen{QColor{teinte(p.contour)}, j.trait});
-    pinceau.setBrush(p.plein ? QBrush{QColor{teinte(p.fond)}} : Qt::NoBrush);
+    pinceau.setPen(QPen{QColor{couleur_de(p.contour)}, j.trait});
+    pinceau.setBrush(p.plein ? QBrush{QColor{couleur_de(p.fond)}} : Qt::NoBrush);
     const auto centre = [milieu](int phase) { return milieu + (phase + 0.5) / phases; };
     pinceau.drawEllipse(QPointF{centre(phase_x), centre(phase_y)}, r, r);
     return image;
@@ -121,7 +122,7 @@ const QImage& peintre::pastille(const jour& j, const primitive& p, int phase_x, 
 
 // Letters stand on whole pixels.
 void peintre::lettre(jour& j, const primitive& p) {
-    auto& image = lettres_[{p.texte, teinte(p.contour)}];
+    auto& image = lettres_[{p.texte, couleur_de(p.contour)}];
     if (image.isNull()) {
         QFont police{"DejaVu Sans"};
         police.setPixelSize(static_cast<int>(std::lround(corps_symbole * densite_)));
@@ -131,7 +132,7 @@ void peintre::lettre(jour& j, const primitive& p) {
         image.fill(Qt::transparent);
         QPainter pinceau{&image};
         pinceau.setFont(police);
-        pinceau.setPen(QColor{teinte(p.contour)});
+        pinceau.setPen(QColor{couleur_de(p.contour)});
         pinceau.drawText(0, m.ascent(), grec);
     }
     const QPointF place{std::floor(p.x * j.pixels_par_twip), std::floor(p.y * j.pixels_par_twip)};

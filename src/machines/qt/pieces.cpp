@@ -1,6 +1,7 @@
 #include "machines/qt/pieces.h"
 
 #include "machines/qt/mesures.h"
+#include "machines/qt/nuit.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -105,6 +106,24 @@ void etiquette::aligne() {
                  (une_ligne ? Qt::AlignVCenter : Qt::AlignTop));
 }
 
+// ---- text
+
+void ligne_de_texte::paintEvent(QPaintEvent* e) {
+    QLineEdit::paintEvent(e);
+    constexpr int marge = 5; // Qt's, on either side of the caret
+    if (nuit() && hasFocus())
+        QPainter{this}.fillRect(cursorRect().x() + marge, cursorRect().y(), 1, cursorRect().height(),
+                                palette().color(QPalette::Text));
+}
+
+void page_de_texte::paintEvent(QPaintEvent* e) {
+    setCursorWidth(nuit() ? 0 : 1);
+    QPlainTextEdit::paintEvent(e);
+    if (nuit() && hasFocus())
+        QPainter{viewport()}.fillRect(cursorRect().x(), cursorRect().y(), 1, cursorRect().height(),
+                                      palette().color(QPalette::Text));
+}
+
 // ---- list
 
 liste::liste(shell::champ_liste& c, QWidget* parent) : QListWidget(parent), champ_(c) {
@@ -157,8 +176,16 @@ void tableau_image::paintEvent(QPaintEvent*) {
         return;
     const QSize voulue = (QSizeF{size()} * devicePixelRatioF()).toSize();
     if (reduite_.size() != voulue)
-        reduite_ = image_.scaled(voulue, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        reduite_ = QPixmap::fromImage(
+            eclaire(image_.toImage().scaled(voulue, Qt::IgnoreAspectRatio, Qt::SmoothTransformation),
+                    *champ_.comme_dessine().image ? nature::decor : nature::photographie));
     QPainter{this}.drawPixmap(rect(), reduite_);
+}
+
+void tableau_image::changeEvent(QEvent* e) {
+    if (e->type() == QEvent::PaletteChange)
+        reduite_ = {};
+    QWidget::changeEvent(e);
 }
 
 void tableau_image::mousePressEvent(QMouseEvent* e) {

@@ -4,8 +4,10 @@
 #include "store/controles.h"
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QPixmap>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QWidget>
 
@@ -41,6 +43,24 @@ class etiquette final : public QLabel {
     shell::champ_etiquette& champ_;
 };
 
+/// A line of text. By night its caret is drawn here: the toolkit's own is the opposite of what it stands on.
+class ligne_de_texte final : public QLineEdit {
+  public:
+    using QLineEdit::QLineEdit;
+
+  protected:
+    void paintEvent(QPaintEvent* e) override;
+};
+
+/// A text of several lines, the same.
+class page_de_texte final : public QPlainTextEdit {
+  public:
+    using QPlainTextEdit::QPlainTextEdit;
+
+  protected:
+    void paintEvent(QPaintEvent* e) override;
+};
+
 /// A list: a click, a double click, a right click and the arrow keys are the user's acts.
 class liste final : public QListWidget {
   public:
@@ -65,6 +85,7 @@ class tableau_image final : public QWidget {
 
   protected:
     void paintEvent(QPaintEvent* e) override;
+    void changeEvent(QEvent* e) override;
     void mousePressEvent(QMouseEvent* e) override;
     void mouseReleaseEvent(QMouseEvent* e) override;
 

@@ -1,5 +1,7 @@
 #include "machines/qt/style.h"
 
+#include "machines/qt/nuit.h"
+
 #include <QApplication>
 #include <QIcon>
 #include <QPainter>
@@ -48,12 +50,53 @@ class style_calme final : public QProxyStyle {
         }
     }
     int pixelMetric(PixelMetric mesure, const QStyleOption* option, const QWidget* widget) const override {
+        if (mesure == PM_TextCursorWidth && nuit())
+            return 0; // text fields draw it
         // A pixel less than the style's own: the panels' outer sizes leave their frames no more.
         return mesure == PM_MdiSubWindowFrameWidth ? 3 : QProxyStyle::pixelMetric(mesure, option, widget);
     }
+
+    // The style mixes whites of its own into the palette's colours: by night they go through the filter.
+    void drawPrimitive(PrimitiveElement quoi, const QStyleOption* option, QPainter* p,
+                       const QWidget* widget) const override {
+        filtre(*p, option->rect, [&](QPainter& q) { QProxyStyle::drawPrimitive(quoi, option, &q, widget); });
+    }
+    void drawControl(ControlElement quoi, const QStyleOption* option, QPainter* p,
+                     const QWidget* widget) const override {
+        if (nuit() && quoi == CE_PushButtonLabel) {
+            auto o = *qstyleoption_cast<const QStyleOptionButton*>(option);
+            o.icon = icone_de_nuit(o.icon);
+            filtre(*p, o.rect, [&](QPainter& q) { QProxyStyle::drawControl(quoi, &o, &q, widget); });
+        } else if (nuit() && quoi == CE_ToolButtonLabel) {
+            auto o = *qstyleoption_cast<const QStyleOptionToolButton*>(option);
+            o.icon = icone_de_nuit(o.icon);
+            filtre(*p, o.rect, [&](QPainter& q) { QProxyStyle::drawControl(quoi, &o, &q, widget); });
+        } else {
+            filtre(*p, option->rect,
+                   [&](QPainter& q) { QProxyStyle::drawControl(quoi, option, &q, widget); });
+        }
+    }
+    void drawComplexControl(ComplexControl quoi, const QStyleOptionComplex* option, QPainter* p,
+                            const QWidget* widget) const override {
+        filtre(*p, option->rect,
+               [&](QPainter& q) { QProxyStyle::drawComplexControl(quoi, option, &q, widget); });
+    }
+    void drawItemPixmap(QPainter* p, const QRect& place, int cadrage, const QPixmap& image) const override {
+        filtre(*p, place, [&](QPainter& q) { QProxyStyle::drawItemPixmap(&q, place, cadrage, image); });
+    }
+
+  private:
+    template <class F> static void filtre(QPainter& p, const QRect& ou, const F& dessine) {
+        if (nuit())
+            a_travers_le_filtre(p, ou, dessine);
+        else
+            dessine(p);
+    }
 };
 
-QPalette couleurs() {
+} // namespace
+
+QPalette palette_de_jour() {
     QPalette p{QColor{0xEF, 0xEF, 0xEC}};
     p.setColor(QPalette::Window, QColor{0xEF, 0xEF, 0xEC});
     p.setColor(QPalette::Base, Qt::white);
@@ -67,7 +110,7 @@ QPalette couleurs() {
     return p;
 }
 
-} // namespace
+QColor fond_de_la_zone() { return nuit() ? QColor{Qt::black} : QColor{0x8A, 0x90, 0x99}; }
 
 void prepare() {
     // Qt's own event dispatcher takes half the time of GLib's for a pass with nothing to do.
@@ -84,7 +127,7 @@ void prepare() {
 
 void habille() {
     QApplication::setStyle(new style_calme);
-    QApplication::setPalette(couleurs());
+    QApplication::setPalette(palette_de_jour());
     QFont police{"DejaVu Sans"};
     police.setPixelSize(hauteur_police);
     QApplication::setFont(police);

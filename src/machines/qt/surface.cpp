@@ -74,6 +74,13 @@ void surface::paintEvent(QPaintEvent*) {
     p.drawImage(0, 0, image_);
 }
 
+// Other colours: painted anew when it is next shown.
+void surface::changeEvent(QEvent* e) {
+    if (e->type() == QEvent::PaletteChange)
+        image_ = {};
+    QWidget::changeEvent(e);
+}
+
 void surface::mousePressEvent(QMouseEvent* e) {
     champ_.presse({static_cast<int>(e->button()),
                    static_cast<float>(e->position().x() * shell::twips_par_pixel),

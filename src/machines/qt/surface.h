@@ -19,6 +19,7 @@ class surface final : public QWidget {
 
   protected:
     void paintEvent(QPaintEvent* e) override;
+    void changeEvent(QEvent* e) override;
     void mousePressEvent(QMouseEvent* e) override;
     void keyPressEvent(QKeyEvent* e) override;
     bool focusNextPrevChild(bool) override { return false; } // the tab key is a key as the others

@@ -1,9 +1,14 @@
 #include "machines/qt/bench/cadran.h"
 
+#include "machines/qt/nuit.h"
+
 #include <QPainter>
 #include <cmath>
 
 namespace banc {
+
+using plateforme::qt::nuit;
+using plateforme::qt::teinte;
 
 namespace {
 constexpr int cote = 92;
@@ -26,8 +31,8 @@ void cadran::paintEvent(QPaintEvent*) {
     p.setRenderHint(QPainter::Antialiasing);
     p.translate(cote / 2.0, cote / 2.0);
     const double rayon = cote / 2.0 - 2;
-    p.setPen(QColor{0x60, 0x60, 0x60});
-    p.setBrush(Qt::white);
+    p.setPen(teinte(QColor{0x60, 0x60, 0x60}));
+    p.setBrush(nuit() ? QColor{16, 0, 0} : Qt::white);
     p.drawEllipse(QPointF{0, 0}, rayon, rayon);
     for (int i = 0; i < 36; ++i) {
         p.save();
@@ -36,9 +41,9 @@ void cadran::paintEvent(QPaintEvent*) {
         p.restore();
     }
     p.rotate(zero_ + sens_ * dixiemes_ / 10.0);
-    p.setPen(QPen{QColor{0xC8, 0x32, 0x28}, 2.5, Qt::SolidLine, Qt::RoundCap});
+    p.setPen(QPen{teinte(QColor{0xC8, 0x32, 0x28}), 2.5, Qt::SolidLine, Qt::RoundCap});
     p.drawLine(QPointF{0, 8}, QPointF{0, -rayon + 10});
-    p.setBrush(QColor{0xC8, 0x32, 0x28});
+    p.setBrush(teinte(QColor{0xC8, 0x32, 0x28}));
     p.drawEllipse(QPointF{0, 0}, 3, 3);
 }
 

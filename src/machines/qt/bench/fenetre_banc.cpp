@@ -7,6 +7,7 @@
 #include "machines/qt/bench/raquette_banc.h"
 #include "machines/qt/bench/voyants.h"
 #include "machines/qt/mesures.h"
+#include "machines/qt/pieces.h"
 
 #include <QDir>
 #include <QGridLayout>
@@ -151,7 +152,7 @@ QWidget* fenetre_banc::fait_horloge() {
     heure_ = new QLabel;
     heure_->setObjectName("heure");
     heure_->setMinimumWidth(150);
-    date_ = new QLineEdit;
+    date_ = new plateforme::qt::ligne_de_texte;
     date_->setObjectName("date");
     date_->setAccessibleName("date");
     date_->setPlaceholderText("2001-08-15 22:00:00");
@@ -193,7 +194,7 @@ QWidget* fenetre_banc::fait_mesures() {
     grille->addWidget(retard_, 0, 1);
     grille->addWidget(oublie, 0, 2);
 
-    chemin_ = new QLineEdit{QDir::home().filePath("velmoria.vcd")};
+    chemin_ = new plateforme::qt::ligne_de_texte{QDir::home().filePath("velmoria.vcd")};
     chemin_->setObjectName("chemin_vcd");
     enregistre_ = bouton("enregistre", "Enregistrer les lignes");
     etat_ = new QLabel;

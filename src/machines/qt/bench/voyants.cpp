@@ -1,9 +1,15 @@
 #include "machines/qt/bench/voyants.h"
 
+#include "machines/qt/nuit.h"
+
 #include <QPainter>
 #include <array>
 
 namespace banc {
+
+using plateforme::qt::nuit;
+using plateforme::qt::rouge_le_plus_vif;
+using plateforme::qt::teinte;
 
 namespace {
 
@@ -31,8 +37,10 @@ void voyants::paintEvent(QPaintEvent*) {
     for (int i = 0; i < 8; ++i) {
         const bool allume = (donnees_ >> (7 - i)) & 1;
         const int x = i * largeur;
-        p.setPen(QColor{0x40, 0x40, 0x40});
-        p.setBrush(allume ? QColor{0xE8, 0x3A, 0x2C} : QColor{0xD4, 0xD0, 0xCC});
+        p.setPen(teinte(QColor{0x40, 0x40, 0x40}));
+        p.setBrush(nuit()   ? QColor{allume ? rouge_le_plus_vif : 24, 0, 0}
+                   : allume ? QColor{0xE8, 0x3A, 0x2C}
+                            : QColor{0xD4, 0xD0, 0xCC});
         p.drawEllipse(x + (largeur - diametre) / 2, 2, diametre, diametre);
         p.setPen(palette().color(QPalette::WindowText));
         p.drawText(QRect{x, diametre + 6, largeur, hauteur - diametre - 6}, Qt::AlignHCenter | Qt::AlignTop,
