@@ -4,8 +4,12 @@
 #include "machines/linux/droits.h"
 #include "machines/linux/port_direct.h"
 #include "machines/qt/lance.h"
+#include "programs/options_fenetres.h"
 
 int lance_sur_le_port(options::programme programme, int argc, char** argv, plateforme::horloge& horloge) {
+    plateforme::qt::apparence apparence;
+    for (auto& o : options::des_fenetres(apparence))
+        programme.options.push_back(std::move(o));
     if (const auto statut = options::lit(programme, argc, argv).statut)
         return *statut;
     // Nothing else may come before these three: the capability must be gone before any window or file is
@@ -23,5 +27,6 @@ int lance_sur_le_port(options::programme programme, int argc, char** argv, plate
                                  {.port = *prise.acces,
                                   .horloge = horloge,
                                   .attente = [&attente](std::int64_t ns) { attente.attend(ns); },
-                                  .avis = avis});
+                                  .avis = avis,
+                                  .apparence = apparence});
 }

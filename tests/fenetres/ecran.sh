@@ -15,4 +15,4 @@ while [ ! -s "$numero" ]; do
     sleep 0.05
 done
 export LSAN_OPTIONS="suppressions=$(dirname "$0")/fuites.txt:print_suppressions=0"
-DISPLAY=:$(cat "$numero") QT_QPA_PLATFORM=xcb XDG_RUNTIME_DIR=${XDG_RUNTIME_DIR:-$dossier} "$@"
+DISPLAY=:$(cat "$numero") QT_QPA_PLATFORM=xcb XDG_CONFIG_HOME=$dossier XDG_RUNTIME_DIR=${XDG_RUNTIME_DIR:-$dossier} "$@"

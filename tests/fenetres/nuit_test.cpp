@@ -1,7 +1,9 @@
 // Night colours: no window shows anything but red, and the day comes back as it was.
 #include "fenetres.h"
 
+#include "fields/frmequapointage_champs.h"
 #include "machines/qt/nuit.h"
+#include "machines/qt/preferences.h"
 
 #include <QMessageBox>
 #include <QScreen>
@@ -42,7 +44,7 @@ class lumiere : public essais::fenetres {
         int vifs = 0;
         for (int y = 0; y < i.height(); ++y)
             for (int x = 0; x < i.width(); ++x) {
-                const QRgb c = i.pixel(x, y);
+                const QRgb c = reinterpret_cast<const QRgb*>(i.constScanLine(y))[x];
                 autres += qRed(c) > rouge_le_plus_vif || qGreen(c) > 16 || qBlue(c) > 16;
                 vifs += qRed(c) > 100;
             }
@@ -63,6 +65,31 @@ TEST_F(lumiere, of_every_panel_is_red_by_night_and_what_it_was_by_day) {
         met_la_nuit(false);
         EXPECT_LT(differences(ecran(*principale()), jour), 1000) << nom; // the style's ticks take any pen
     }
+}
+
+TEST_F(lumiere, is_changed_by_one_key_everywhere_and_remembered) {
+    const auto f9 = [](QWidget* w) { QTest::keyClick(w->window()->windowHandle(), Qt::Key_F9); };
+    f9(principale());
+    EXPECT_TRUE(plateforme::qt::nuit_retenue());
+    est_de_nuit(ecran(*principale()), "main frame");
+
+    QTimer::singleShot(100, [&] {
+        auto* boite = QApplication::activeModalWidget();
+        ASSERT_TRUE(boite);
+        est_de_nuit(ecran(*boite), "message box");
+        f9(boite);
+        EXPECT_FALSE(plateforme::qt::nuit());
+        f9(boite);
+        boite->close();
+    });
+    s->vue().message("altitude négative");
+
+    frmequapointage::fiche.montre();
+    frmequapointage::choix.lbObjets.visible(true);
+    au_menu([&](QMenu& m) { est_de_nuit(ecran(m), "popup"); });
+    frmequapointage::choix.lbObjets.droit(3);
+    f9(principale());
+    EXPECT_FALSE(plateforme::qt::nuit_retenue());
 }
 
 } // namespace

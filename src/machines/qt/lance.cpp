@@ -5,6 +5,7 @@
 #include "machines/qt/boucle_qt.h"
 #include "machines/qt/fin.h"
 #include "machines/qt/images.h"
+#include "machines/qt/nuit.h"
 #include "machines/qt/style.h"
 #include "machines/qt/vue_qt.h"
 
@@ -65,6 +66,7 @@ std::unique_ptr<QApplication> ouvre_affichage(int& argc, char** argv) {
 seance::seance(int argc, char** argv, composition c) : argc_(argc), c_(std::move(c)) {
     application_ = ouvre_affichage(argc_, argv);
     prend_les_images();
+    ecoute_la_touche_de_nuit(c_.apparence.nuit);
     QApplication::setApplicationName("Velmoria");
     QApplication::setWindowIcon(icone_programme(c_.icone));
 

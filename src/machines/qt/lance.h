@@ -16,6 +16,11 @@ namespace plateforme::qt {
 class boucle_qt;
 class vue_qt;
 
+/// What the observer asks of the windows on the command line.
+struct apparence {
+    bool nuit = false; ///< night colours from the start
+};
+
 struct composition {
     plateforme::port& port;
     plateforme::horloge& horloge;
@@ -29,6 +34,7 @@ struct composition {
     /// Runs once the main frame is on screen: the bench opens its own window there.
     std::function<void()> ensuite = {};
     std::filesystem::path donnees = {}; ///< the data folder; empty for the one beside the executable
+    qt::apparence apparence = {};
 };
 
 /// Builds the program on Qt and runs it; the process ends inside. Without a display it ends with status 1

@@ -1,8 +1,10 @@
 #include "machines/qt/nuit.h"
 
+#include "machines/qt/preferences.h"
 #include "machines/qt/style.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMdiArea>
 #include <QPainter>
 #include <QToolTip>
@@ -65,6 +67,32 @@ QPalette de_nuit() {
 } // namespace
 
 bool nuit() { return allumee; }
+
+namespace {
+
+// A key reaches its window first, once; then its widgets, one after the other.
+class interrupteur final : public QObject {
+  public:
+    using QObject::QObject;
+    bool eventFilter(QObject* objet, QEvent* e) override {
+        if (e->type() == QEvent::KeyPress && objet->isWindowType()) {
+            const auto& k = static_cast<QKeyEvent&>(*e);
+            if (k.key() == Qt::Key_F9 && k.modifiers() == Qt::NoModifier && !k.isAutoRepeat()) {
+                met_la_nuit(!nuit());
+                retient_nuit(nuit());
+            }
+        }
+        return false;
+    }
+};
+
+} // namespace
+
+void ecoute_la_touche_de_nuit(bool nuit) {
+    if (nuit || nuit_retenue())
+        met_la_nuit(true);
+    qApp->installEventFilter(new interrupteur{qApp});
+}
 
 void met_la_nuit(bool oui) {
     allumee = oui;

@@ -12,6 +12,11 @@ class QPainter;
 
 namespace plateforme::qt {
 
+/// Takes the colours that the account remembers, or the night's if `nuit`; from then on F9 changes them and
+/// has them remembered, in whatever window it is pressed, and goes on to that window. Needs the application
+/// object.
+void ecoute_la_touche_de_nuit(bool nuit);
+
 /// The brightest red of the night, of 255; green and blue stay 0.
 inline constexpr int rouge_le_plus_vif = 200;
 
@@ -30,8 +35,8 @@ QColor teinte_de_carte(couleur c);
 
 enum class nature { photographie, decor, icone };
 
-/// A picture as it shows now: by night its light in red. A dark icon and a decor on a white ground become their
-/// negatives.
+/// A picture as it shows now: by night its light in red. A dark icon and a decor on a white ground become
+/// their negatives.
 QImage eclaire(const QImage& i, nature n);
 
 /// An icon as `eclaire` makes it, in all its sizes.
