@@ -59,12 +59,9 @@ class vue_muette final : public plateforme::vue {
     void eleve(const shell::panneau&) override {}
     void repeint(const shell::panneau&) override {}
     void controle_change(const shell::controle&, plateforme::aspect) override {}
-    shell::entree* ouvre_menu(shell::entree&, const shell::entree*) override { return choix; }
+    shell::entree* ouvre_menu(shell::entree&, const shell::entree*) override { return nullptr; }
     void message(const std::string&) override {}
-    plateforme::image charge_image(const std::filesystem::path&) override { return photo; }
-
-    plateforme::image photo{1, 10, 10, 96}; ///< what every picture is
-    shell::entree* choix = nullptr;         ///< what the next popups answer
+    plateforme::image charge_image(const std::filesystem::path&) override { return {1, 10, 10, 96}; }
 };
 
 /// The program put together in its design state, not started, on 2001 August 15 at 22 h.

@@ -1,15 +1,8 @@
 #include "base/octets.h"
 #include "essai.h"
 
-TEST(Octets, EveryByteSurvivesALoadAndASave) {
-    std::string tous;
-    for (int i = 0; i < 256; ++i)
-        tous += static_cast<char>(i);
-    EXPECT_EQ(base::vers_1252(base::de_1252(tous)), tous);
-    EXPECT_EQ(base::de_1252("\xE9t\xE9 \x80 \x9C"), "été € œ");
-}
-
 TEST(Octets, ACharacterWithoutAByteBecomesAQuestionMark) {
+    EXPECT_EQ(base::de_1252("\xE9t\xE9 \x80 \x9C"), "été € œ");
     EXPECT_EQ(base::vers_1252("α Vég\u00e9tal 🔭 \u0080"), "? V\xE9g\xE9tal ? ?");
     for (const auto& [malforme, attendu] : {std::pair{"\xC3", "?"},
                                             {"\xE2\x82", "??"},

@@ -56,10 +56,8 @@ void attend_cadence(double par_seconde, int pas_ms, double tolerance) {
 
 TEST(Cadence, IsSteadyForSlowAndFastMotions) {
     attend_cadence(0.5, 100, 0.05);
-    attend_cadence(1.0, 70, 0.08);
     attend_cadence(15.04, 100, 0.06);
     attend_cadence(300.0, 50, 0.02);
-    attend_cadence(250'000.0, 50, 1e-4);
     attend_cadence(250'000.0, 1, 1e-4);
 }
 
