@@ -144,25 +144,6 @@ void affiche_position(entier32 ad, entier32 dec) {
     choix.tdcpos.legende(catalogue::texte_dec_objet(dec));
 }
 
-// The chart's slew is the equatorial one, for either panel.
-void pointe(double ad, double dec) {
-    pointing::ciblead = entier32{ad};
-    pointing::cibledec = entier32{dec};
-    pointing::pointeequa();
-    affiche_position(pointing::ciblead, pointing::cibledec);
-    pointing::reticulead = pointing::ciblead.reel();
-    pointing::reticuledec = pointing::cibledec.reel();
-}
-
-void aligne(double ad, double dec) {
-    pointing::reticulead = ad;
-    pointing::reticuledec = dec;
-    affiche_position(entier32{ad}, entier32{dec});
-    pointing::reticulevisible = true;
-    if (!pointing::panneaualtaz)
-        frmequapointage::picpointage.visible(true);
-}
-
 void opere() {
     const auto p = pris_a_la_presse();
     const auto& a = p.quoi == espece::objet ? objet(p.indice) : etoile(p.indice);
@@ -240,6 +221,25 @@ void branche_menu() {
 }
 
 } // namespace
+
+// The chart's slew is the equatorial one, for either panel.
+void pointe(double ad, double dec) {
+    pointing::ciblead = entier32{ad};
+    pointing::cibledec = entier32{dec};
+    pointing::pointeequa();
+    affiche_position(pointing::ciblead, pointing::cibledec);
+    pointing::reticulead = pointing::ciblead.reel();
+    pointing::reticuledec = pointing::cibledec.reel();
+}
+
+void aligne(double ad, double dec) {
+    pointing::reticulead = ad;
+    pointing::reticuledec = dec;
+    affiche_position(entier32{ad}, entier32{dec});
+    pointing::reticulevisible = true;
+    if (!pointing::panneaualtaz)
+        frmequapointage::picpointage.visible(true);
+}
 
 void branche() {
     fiche.au_chargement(charge);

@@ -69,7 +69,24 @@ void pas() {
     demi_pas(bitsens + bitpas);
 }
 
+void lit_inversion() {
+    valeurs::lecteur f{plateforme::fichier_donnees("inversion.ini")};
+    const bool az = f.vrai();
+    const bool alt = f.vrai();
+    invaz = az;
+    invalt = alt;
+}
+
+// Counted among the `jogs` as long as it lives.
+struct jog_en_cours {
+    jog_en_cours() { ++jogs; }
+    ~jog_en_cours() { --jogs; }
+    jog_en_cours(const jog_en_cours&) = delete;
+    jog_en_cours& operator=(const jog_en_cours&) = delete;
+};
+
 void jog(void (*vitesse)(), void (*compte)()) {
+    const jog_en_cours ici;
     fixesens();
     vitesse();
     while (cmdsens != 0) {
@@ -95,16 +112,18 @@ void rafale(double ecart, entier16 plus, entier16 moins, entier16 nombre, const 
 } // namespace
 
 void fixesens() {
-    valeurs::lecteur f{plateforme::fichier_donnees("inversion.ini")};
-    const bool az = f.vrai();
-    const bool alt = f.vrai();
-    invaz = az;
-    invalt = alt;
+    lit_inversion();
     sensplus = false;
     const axe* a = axe_de(cmdsens);
     dirige(impaire(cmdsens) != static_cast<bool>(a == &azimut ? invaz : invalt));
     if (a)
         sensplus = bitsens == (a == &azimut ? azplus : altplus);
+}
+
+entier16 commande_du_sens(bool altitude, bool leve) {
+    lit_inversion();
+    const bool impair = leve != static_cast<bool>(altitude ? invalt : invaz);
+    return entier16{(altitude ? 3 : 1) + (impair ? 0 : 1)};
 }
 
 void port_a_la_raquette() {

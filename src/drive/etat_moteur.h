@@ -32,6 +32,8 @@ inline entier32 tempopas;    ///< delay count of the jogs and of the sidereal dr
 inline entier32 tempopaddle; ///< delay count of the paddle loops
 inline booleen16 vitchange;  ///< a speed slider was moved since the program started; never set back
 
+inline int jogs = 0; ///< jogs on the stack, one inside the other; bursts and slews apart
+
 inline entier32 compteaz; ///< steps since they were last folded into the position, signed
 inline entier32 comptealt;
 

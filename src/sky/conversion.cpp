@@ -7,6 +7,7 @@
 #include "sky/math.h"
 #include "sky/temps_sideral.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace general {
@@ -44,6 +45,25 @@ double azimut(double ouest) {
     return az;
 }
 
+constexpr double telle_quelle(double x) { return x; }
+
+// The nearest argument that the inverse functions take: the last one below 1, and not 0.
+double bornee(double x) {
+    constexpr double presque_un = 1 - 1.2e-16;
+    return x == 0 ? 1e-300 : std::clamp(x, -presque_un, presque_un);
+}
+
+// Azimuth from south, radians. The exact south keeps 180 degrees, which is the declination due north of
+// there.
+double azimut_du_sud(double az) {
+    return az == plein_sud ? (az / 3600.0) * pi / 180.0 : ((az / 3600.0 - 180.0) * pi) / 180.0;
+}
+
+// Declination of an azimuth from south and an altitude seen from latitude p, radians.
+double declinaison(double a, double h, double p, double (*argument)(double)) {
+    return fini(arcsin(argument(sin(h) * sin(p) - (cos(h) * cos(p)) * cos(a))), "decrad");
+}
+
 // Right ascension in seconds of time at local sidereal time l. The hour angle is given by its sine, and by
 // the inverse of its sine h0 and the folded inverse of its cosine h1.
 double ascension(double l, double sinus, double h0, double h1) {
@@ -52,6 +72,14 @@ double ascension(double l, double sinus, double h0, double h1) {
     if (sinus > 0)
         return h1 > 0 ? l - u : (l - u) - demi_jour;
     return h1 > 0 ? l + u : l - v;
+}
+
+// The same of the direction just told, with its declination d.
+double ascension_de(double l, double a, double h, double p, double d, double (*argument)(double)) {
+    const double sinus = divise(sin(a) * cos(h), cos(d), "angle horaire");
+    const double h0 = arcsin(argument(sinus));
+    const double cosinus = divise((sin(p) * cos(h)) * cos(a) + cos(p) * sin(h), cos(d), "angle horaire");
+    return ascension(l, sinus, h0, arccos(argument(cosinus)));
 }
 
 } // namespace
@@ -88,20 +116,21 @@ void calcul_altaz() {
 
 void calcul_equa() {
     lit_latitude();
-    // Azimuth from south. The exact south keeps 180 degrees, which is the declination due north of there.
-    const double a =
-        posaz == plein_sud ? (posaz / 3600.0) * pi / 180.0 : ((posaz / 3600.0 - 180.0) * pi) / 180.0;
+    const double a = azimut_du_sud(posaz);
     const double h = ((posalt / 3600.0) * pi) / 180.0;
-    const double p = latrad;
-    decrad = fini(arcsin(sin(h) * sin(p) - (cos(h) * cos(p)) * cos(a)), "decrad");
+    decrad = declinaison(a, h, latrad, telle_quelle);
     decdeg = math::degres(decrad);
     lit_almanach();
     const double l = lit_tsl();
-    const double sinus = divise(sin(a) * cos(h), cos(decrad), "angle horaire");
-    const double h0 = arcsin(sinus);
-    const double cosinus = divise((sin(p) * cos(h)) * cos(a) + cos(p) * sin(h), cos(decrad), "angle horaire");
-    const double h1 = arccos(cosinus);
-    adheures = fini(ascension(l, sinus, h0, h1) / 3600.0, "adheures");
+    adheures = fini(ascension_de(l, a, h, latrad, decrad, telle_quelle) / 3600.0, "adheures");
+}
+
+place depuis_horizon(double az, double alt, double latitude, double tsl) {
+    const double a = azimut_du_sud(az);
+    const double h = ((alt / 3600.0) * pi) / 180.0;
+    const double p = (latitude * pi) / 180.0;
+    const double d = declinaison(a, h, p, bornee);
+    return {ascension_de(tsl, a, h, p, d, bornee) / 3600.0, math::degres(d)};
 }
 
 } // namespace general

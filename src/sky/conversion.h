@@ -8,6 +8,8 @@
 // hours from the meridian on the way back. An exact southern transit gives azimuth 0.
 #pragma once
 
+#include "sky/equinoxe.h"
+
 namespace general {
 
 inline double latrad = 0;   ///< latitude of the site, radians
@@ -40,5 +42,9 @@ void calcul_altaz();
 /// Right ascension and declination of the place the telescope points at, into `adheures`, `decrad`, `decdeg`.
 /// Reads the almanac.
 void calcul_equa();
+
+/// The same formulas for any reader: azimuth and altitude in arcseconds, latitude in degrees, local sidereal
+/// time in seconds. Stores nothing, reads no field, and passes a singular point by the place next to it.
+place depuis_horizon(double az, double alt, double latitude, double tsl);
 
 } // namespace general

@@ -13,6 +13,14 @@ inline base::entier32 cibledec;
 
 inline double reticulead = 0; ///< where the telescope is taken to point, catalogue units
 inline double reticuledec = 0;
+/// What an equatorial slew under way has gone beyond the reticle: pulses sent, and the signed way of one.
+struct chemin {
+    double unite = 0; ///< catalogue units
+    double impulsions = 0;
+    double parcouru() const { return unite * impulsions; }
+};
+inline chemin cheminad; ///< both 0 outside a slew
+inline chemin chemindec;
 inline base::booleen16 reticulevisible; ///< the chart shows that place
 
 inline base::booleen16 panneaualtaz; ///< the alt-azimuth pointing panel is the one in use

@@ -91,11 +91,12 @@ void pointealtaz() {
     cmd_moteur::cmdsens = 1;
     cmd_moteur::tempoaltaz();
     frmDepl::fiche.montre();
-    double i = envoie(nbaz, aucun_sens, pas_azimut, frmDepl::ProgressBaraz);
+    double i = 0;
+    envoie(nbaz, aucun_sens, pas_azimut, frmDepl::ProgressBaraz, i);
     if (!stoppointage) {
         cmd_moteur::cmdsens = 3;
         cmd_moteur::tempoaltaz();
-        i = envoie(nbalt.reel(), aucun_sens, pas_altitude, frmDepl::ProgressBaralt);
+        envoie(nbalt.reel(), aucun_sens, pas_altitude, frmDepl::ProgressBaralt, i);
     }
     avance_position(i);
 }

@@ -60,18 +60,22 @@ void pointeequa() {
     const double da = ciblead.reel() - reticulead;
     const double nbad = compte(da, unite_ad);
     dirige((da < 0) == static_cast<bool>(invpointad) ? 2 : 1);
+    cheminad.unite = da < 0 ? -unite_ad : unite_ad;
     frmDepl::fiche.montre();
-    envoie(nbad, cmd_moteur::bitsens, cmd_moteur::bitpas, frmDepl::ProgressBaraz);
+    envoie(nbad, cmd_moteur::bitsens, cmd_moteur::bitpas, frmDepl::ProgressBaraz, cheminad.impulsions);
 
     const double tour_dec = m.Rdec * (2 * m.pasdec);
     const double unite_dec = divise(360, tour_dec, "config_equa.ini, Déc.") * 600;
     const double dd = cibledec.reel() - reticuledec;
     const double nbdec = compte(dd, unite_dec);
     dirige((dd < 0) == static_cast<bool>(invpointdec) ? 3 : 4);
-    envoie(nbdec, cmd_moteur::bitsens, cmd_moteur::bitpas, frmDepl::ProgressBaralt);
+    chemindec.unite = dd < 0 ? -unite_dec : unite_dec;
+    envoie(nbdec, cmd_moteur::bitsens, cmd_moteur::bitpas, frmDepl::ProgressBaralt, chemindec.impulsions);
 
     classevitaz = az_avant;
     classevitalt = alt_avant;
+    cheminad = {};
+    chemindec = {};
     frmDepl::fiche.decharge();
     stoppointage = false;
 }

@@ -134,6 +134,7 @@ void meneur::execute(const std::string& commande) {
     try {
         if (!prepare(mot, reste) && !agit(mot, reste))
             throw ligne_incomprise{"commande inconnue : \"" + mot + "\""};
+        planetarium::commence();
     } catch (const entree_inconnue& e) {
         throw ligne_incomprise{"le menu n'a pas cette entrée : \"" + e.nom + "\""};
     }
@@ -162,6 +163,9 @@ bool meneur::prepare(std::string_view mot, const std::string& reste) {
     else if (mot == "zero") {
         monture_.zero();
         simule_.oublie_ecritures();
+    } else if (mot == "planetarium") {
+        const auto reponse = liaison_.recoit(reste == "ACK" ? std::string{planetarium::ack} : reste);
+        partie_.sortie << "planetarium = " << reponse << '\n';
     } else if (mot == "raquette") {
         if (!simule_.presente(entier(reste)))
             throw ligne_incomprise{"code de raquette hors de 0 à 255 : " + reste};

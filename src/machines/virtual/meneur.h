@@ -6,6 +6,7 @@
 #include "machines/virtual/boucle_virtuelle.h"
 #include "machines/virtual/scenario.h"
 #include "machines/virtual/vue_scenario.h"
+#include "remote/planetarium.h"
 
 #include <string>
 #include <string_view>
@@ -71,6 +72,7 @@ class meneur {
     port_virtuel port_{simule_, boucle_};
     vue_scenario vue_;
     std::filesystem::path prive_; // the private copy's folder
+    planetarium::liaison liaison_{1};
     bool demarre_ = false;
     int numero_ = 0;
     std::string en_attente_; // a line read ahead
