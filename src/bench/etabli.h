@@ -47,6 +47,8 @@ class etabli final : public temoin {
     /// False if the file cannot be opened.
     [[nodiscard]] bool enregistre(const std::filesystem::path& chemin);
     bool enregistre_encore() const { return vcd_.ouvert(); }
+    /// What was recorded so far reaches the file.
+    void rince() { vcd_.rince(); }
     /// False if something could not be written.
     bool cesse_d_enregistrer();
 

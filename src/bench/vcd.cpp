@@ -92,6 +92,11 @@ bool vcd::note(std::int64_t instant_ns, std::uint8_t donnees, std::uint8_t contr
     return !perdu_;
 }
 
+void vcd::rince() {
+    if (fichier_ && !tampon_.empty())
+        vide();
+}
+
 bool vcd::ferme() {
     if (!fichier_)
         return true;

@@ -30,6 +30,9 @@ class vcd {
     /// is put 1 ns after it, so that no pulse vanishes in an instant of no length. False without a recording.
     bool note(std::int64_t instant_ns, std::uint8_t donnees, std::uint8_t controle);
 
+    /// Hands on to the file what is held: a reader finds it there now.
+    void rince();
+
     /// Writes what is still held and closes; does nothing without a recording. False if any byte since
     /// `ouvre` did not reach the file.
     bool ferme();

@@ -4,12 +4,15 @@
 #include "machines/linux/droits.h"
 #include "machines/linux/port_direct.h"
 #include "machines/qt/lance.h"
+#include "programs/option_planetarium.h"
 #include "programs/options_fenetres.h"
 
 int lance_sur_le_port(options::programme programme, int argc, char** argv, plateforme::horloge& horloge) {
     plateforme::qt::apparence apparence;
+    std::optional<plateforme::qt::adresse_du_guichet> planetarium;
     for (auto& o : options::des_fenetres(apparence))
         programme.options.push_back(std::move(o));
+    programme.options.push_back(option_planetarium(planetarium));
     if (const auto statut = options::lit(programme, argc, argv).statut)
         return *statut;
     // Nothing else may come before these three: the capability must be gone before any window or file is
@@ -28,5 +31,6 @@ int lance_sur_le_port(options::programme programme, int argc, char** argv, plate
                                   .horloge = horloge,
                                   .attente = [&attente](std::int64_t ns) { attente.attend(ns); },
                                   .avis = avis,
-                                  .apparence = apparence});
+                                  .apparence = apparence,
+                                  .planetarium = planetarium});
 }

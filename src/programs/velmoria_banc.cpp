@@ -4,6 +4,7 @@
 #include "machines/qt/bench/composition.h"
 #include "machines/qt/bench/fenetre_banc.h"
 #include "machines/qt/fin.h"
+#include "programs/option_planetarium.h"
 #include "programs/options_fenetres.h"
 #include "sky/heure.h"
 
@@ -11,10 +12,19 @@
 
 int main(int argc, char** argv) {
     plateforme::qt::apparence apparence;
-    const options::programme programme{
+    std::optional<plateforme::qt::adresse_du_guichet> planetarium;
+    std::string enregistrement;
+    options::programme programme{
         .nom = "velmoria-banc",
         .role = "Le programme entier sur un banc simulé : rien n'a besoin d'être branché.",
         .options = options::des_fenetres(apparence)};
+    programme.options.push_back(option_planetarium(planetarium));
+    programme.options.push_back({"--enregistre", "FICHIER",
+                                 "enregistre les lignes du port dès le début (VCD)",
+                                 [&enregistrement](std::string_view chemin) {
+                                     enregistrement = chemin;
+                                     return std::string{};
+                                 }});
     if (const auto statut = options::lit(programme, argc, argv).statut)
         return *statut;
     banc::horloge_banc horloge{plateforme::temps_universel,
@@ -25,6 +35,11 @@ int main(int argc, char** argv) {
     plateforme::qt::a_la_fin([&etabli] { etabli.cesse_d_enregistrer(); });
     auto composition = banc::sur_le_banc(etabli, horloge, attente);
     composition.apparence = apparence;
-    composition.ensuite = [&] { fenetre.emplace(etabli, horloge).show(); };
+    composition.planetarium = planetarium;
+    composition.ensuite = [&] {
+        fenetre.emplace(etabli, horloge).show();
+        if (!enregistrement.empty())
+            fenetre->enregistre_dans(QString::fromStdString(enregistrement));
+    };
     return plateforme::qt::lance(1, argv, std::move(composition));
 }

@@ -49,6 +49,8 @@ std::optional<demande> en_cours;
 const pupitre& pupitre_du_mode() { return mode() == monture::equatoriale ? equatorial : altazimutal; }
 
 std::string refus_commun() {
+    if (shell::est_gele())
+        return "Le programme est arrêté.";
     if (mode() == monture::aucune)
         return "Choisissez d'abord le mode de la monture.";
     if (raquette())

@@ -4,6 +4,7 @@
 #include "frame/programme.h"
 #include "machines/qt/boucle_qt.h"
 #include "machines/qt/fin.h"
+#include "machines/qt/guichet.h"
 #include "machines/qt/images.h"
 #include "machines/qt/nuit.h"
 #include "machines/qt/style.h"
@@ -84,11 +85,18 @@ seance::seance(int argc, char** argv, composition c) : argc_(argc), c_(std::move
 seance::~seance() = default;
 
 void seance::demarre() {
-    if (!c_.avis.empty()) {
-        std::fprintf(stderr, "%s\n", c_.avis.c_str());
-        vue_->message(c_.avis);
-    }
+    const auto avertit = [this](const std::string& avis) {
+        if (avis.empty())
+            return;
+        std::fprintf(stderr, "%s\n", avis.c_str());
+        vue_->message(avis);
+    };
+    avertit(c_.avis);
     programme::demarre();
+    if (c_.planetarium) {
+        guichet_ = std::make_unique<guichet>(*c_.planetarium);
+        avertit(guichet_->faute());
+    }
     if (c_.ensuite)
         c_.ensuite();
 }

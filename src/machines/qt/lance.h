@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 class QApplication;
@@ -14,11 +15,18 @@ class QApplication;
 namespace plateforme::qt {
 
 class boucle_qt;
+class guichet;
 class vue_qt;
 
 /// What the observer asks of the windows on the command line.
 struct apparence {
     bool nuit = false; ///< night colours from the start
+};
+
+/// Where planetariums are listened to: an address in figures, of either family, and a port.
+struct adresse_du_guichet {
+    std::string adresse = "127.0.0.1";
+    int port = 0;
 };
 
 struct composition {
@@ -35,6 +43,7 @@ struct composition {
     std::function<void()> ensuite = {};
     std::filesystem::path donnees = {}; ///< the data folder; empty for the one beside the executable
     qt::apparence apparence = {};
+    std::optional<adresse_du_guichet> planetarium = {}; ///< none: nothing listens
 };
 
 /// Builds the program on Qt and runs it; the process ends inside. Without a display it ends with status 1
@@ -61,6 +70,7 @@ class seance {
     std::unique_ptr<QApplication> application_;
     std::unique_ptr<boucle_qt> boucle_;
     std::unique_ptr<vue_qt> vue_;
+    std::unique_ptr<guichet> guichet_;
 };
 
 /// Says on standard error and in a box why the program does not start; gives the exit status 1.

@@ -6,6 +6,7 @@
 #include "machines/qt/bench/cadran.h"
 #include "machines/qt/bench/raquette_banc.h"
 #include "machines/qt/bench/voyants.h"
+#include "machines/qt/guichet.h"
 #include "machines/qt/mesures.h"
 #include "machines/qt/pieces.h"
 
@@ -205,7 +206,21 @@ QWidget* fenetre_banc::fait_mesures() {
     grille->addWidget(enregistre_, 1, 2);
     grille->addWidget(etat_, 2, 0, 1, 3);
     grille->setColumnStretch(1, 1);
+    if (plateforme::qt::guichet_ouvert) {
+        planetarium_ = new QLabel;
+        planetarium_->setObjectName("planetarium");
+        planetarium_->setWordWrap(true);
+        planetarium_->setMinimumHeight(
+            3 * fontMetrics().lineSpacing()); // no text of it changes the window's size
+        planetarium_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+        grille->addWidget(planetarium_, 3, 0, 1, 3);
+    }
     return groupe;
+}
+
+void fenetre_banc::enregistre_dans(const QString& chemin) {
+    chemin_->setText(chemin);
+    bascule_enregistrement();
 }
 
 void fenetre_banc::bascule_enregistrement() {
@@ -255,8 +270,13 @@ void fenetre_banc::rafraichit() {
     ecrit(retard_,
           QString::number(static_cast<double>(etabli_.pire_retard()) / 1000.0, 'f', 1).replace('.', ',') +
               " µs");
+    if (plateforme::qt::guichet_ouvert)
+        ecrit(planetarium_, plateforme::qt::affiche(plateforme::qt::guichet_ouvert->etat()));
 }
 
-void fenetre_banc::timerEvent(QTimerEvent*) { rafraichit(); }
+void fenetre_banc::timerEvent(QTimerEvent*) {
+    rafraichit();
+    etabli_.rince();
+}
 
 } // namespace banc

@@ -22,6 +22,8 @@ class fenetre_banc final : public QWidget {
     fenetre_banc(etabli& e, horloge_banc& h);
     /// Brings every figure up to date; runs ten times a second by itself.
     void rafraichit();
+    /// Starts a recording, as the path typed and the button do.
+    void enregistre_dans(const QString& chemin);
 
   protected:
     void timerEvent(QTimerEvent*) override;
@@ -52,6 +54,7 @@ class fenetre_banc final : public QWidget {
     QLineEdit* chemin_ = nullptr;
     QPushButton* enregistre_ = nullptr;
     QLabel* etat_ = nullptr;
+    QLabel* planetarium_ = nullptr; // where the program listens to one
 };
 
 } // namespace banc
