@@ -1,6 +1,8 @@
 // What of the panels no scenario can show: files of other hands, the help's address.
 #include "essai.h"
 #include "fields/Frmnotes_champs.h"
+#include "fields/bulles.h"
+#include "fields/frmaltazpilot_champs.h"
 #include "frame/aide.h"
 
 namespace {
@@ -32,6 +34,23 @@ TEST_F(Programme, notes) {
         EXPECT_EQ(base::lit_fichier(donnees / "notes.txt"), c.enregistre);
         Frmnotes::fiche.decharge();
     }
+}
+
+// Who cannot read what a control does from a caption of its own reads it from its tooltip.
+TEST_F(Programme, bulles) {
+    for (const auto* p : programme::registre().panneaux)
+        for (const auto* c : p->controles()) {
+            using enum shell::genre;
+            const auto g = c->espece();
+            const bool sans_legende = g == texte || g == liste || g == deroulante || g == barre ||
+                                      g == curseur || g == hautbas || g == outil || c->a(shell::symbole) ||
+                                      (g == bouton && c->regarde_texte().empty());
+            EXPECT_TRUE(!sans_legende || !bulles::bulle(*c).empty()) << p->nom() << '.' << c->nom();
+            EXPECT_FALSE(p->est_charge());
+        }
+    // 1234 x 50 and one counts of 30 ns, twice a pulse: 1e9 / (2 x 61701 x 30) = 270.1
+    frmaltazpilot::reglage.champ(2).ecrit("1234");
+    EXPECT_NE(bulles::bulle(frmaltazpilot::reglage.champ(2)).find(" 270 impulsions"), std::string::npos);
 }
 
 TEST_F(Programme, adresse_de_l_aide) {

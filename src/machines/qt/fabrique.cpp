@@ -164,6 +164,7 @@ QWidget* fabrique(controle& c, QWidget* parent) {
         return nullptr;
     w->setObjectName(affiche(c.nom()));
     w->setAccessibleName(w->objectName());
+    new montre_bulle{c, w};
     if (c.a(gras)) {
         auto police = w->font();
         police.setBold(true);

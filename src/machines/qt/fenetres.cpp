@@ -5,6 +5,7 @@
 #include "machines/qt/images.h"
 #include "machines/qt/menus.h"
 #include "machines/qt/mesures.h"
+#include "machines/qt/pieces.h"
 #include "machines/qt/style.h"
 
 #include <QApplication>
@@ -115,13 +116,6 @@ void remplit(fenetre& f, QWidget* contenu) {
     cede_au_dessin(f);
 }
 
-// A tool's text stands under its icon: a bubble that repeats it would only cost a repaint.
-class filtre_bulle final : public QObject {
-  public:
-    bool eventFilter(QObject*, QEvent* e) override { return e->type() == QEvent::ToolTip; }
-};
-filtre_bulle sans_bulle;
-
 QToolBar* barre_outils(QMainWindow& w, const controle& c) {
     constexpr int cote_icone = 24;
     auto* barre = new QToolBar{&w};
@@ -143,7 +137,7 @@ QAction* outil(QToolBar& barre, champ_outil& c) {
             action->setIcon(icone(c.comme_dessine().valeur));
     });
     auto* touche = barre.widgetForAction(action);
-    touche->installEventFilter(&sans_bulle);
+    new montre_bulle{c, touche};
     touche->setObjectName(affiche(c.nom()));
     touche->setAccessibleName(touche->objectName());
     QObject::connect(action, &QAction::triggered, action, [&c] { c.clic(); });

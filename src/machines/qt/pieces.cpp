@@ -1,5 +1,6 @@
 #include "machines/qt/pieces.h"
 
+#include "fields/bulles.h"
 #include "machines/qt/mesures.h"
 #include "machines/qt/nuit.h"
 
@@ -8,6 +9,7 @@
 #include <QPainter>
 #include <QStyleOptionButton>
 #include <QToolButton>
+#include <QToolTip>
 #include <QVBoxLayout>
 
 namespace plateforme::qt {
@@ -197,6 +199,22 @@ void tableau_image::mousePressEvent(QMouseEvent* e) {
 void tableau_image::mouseReleaseEvent(QMouseEvent* e) {
     if (e->button() == Qt::LeftButton)
         champ_.relache();
+}
+
+// ---- tooltip
+
+montre_bulle::montre_bulle(const shell::controle& c, QWidget* w) : QObject(w), champ_(c) {
+    w->installEventFilter(this);
+}
+
+// Worked out when it is asked for: a speed's tells its present value.
+bool montre_bulle::eventFilter(QObject*, QEvent* e) {
+    if (e->type() != QEvent::ToolTip)
+        return false;
+    const auto texte = bulles::bulle(champ_);
+    if (!texte.empty())
+        QToolTip::showText(static_cast<QHelpEvent*>(e)->globalPos(), affiche(texte));
+    return true;
 }
 
 // ---- up-down

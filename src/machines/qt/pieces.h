@@ -95,6 +95,16 @@ class tableau_image final : public QWidget {
     QPixmap reduite_; // to the screen's pixels of the place it has
 };
 
+/// Shows a control's tooltip over its widget; made for the widget, and gone with it.
+class montre_bulle final : public QObject {
+  public:
+    montre_bulle(const shell::controle& c, QWidget* w);
+    bool eventFilter(QObject* objet, QEvent* e) override;
+
+  private:
+    const shell::controle& champ_;
+};
+
 /// Two arrow buttons, one above the other.
 class hautbas final : public QWidget {
   public:

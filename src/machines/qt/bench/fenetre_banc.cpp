@@ -52,6 +52,34 @@ QLabel* chiffre(const char* nom, int largeur) {
     return l;
 }
 
+// What each gauge tells, by its name.
+constexpr std::pair<const char*, const char*> bulles[] = {
+    {"voyants",
+     "Les huit lignes de données, de 128 à 1 ; les moteurs avancent quand leur ligne de pas s'allume"},
+    {"registres", "Données (888) et contrôle (890) : 1 ordinateur, 11 raquette"},
+    {"cadence_az", "Impulsions par seconde du premier axe"},
+    {"cadence_alt", "Impulsions par seconde du second axe"},
+    {"sens0_az", "Impulsions envoyées avec la ligne de sens éteinte"},
+    {"sens0_alt", "Impulsions envoyées avec la ligne de sens éteinte"},
+    {"sens8_az", "Impulsions envoyées avec la ligne de sens allumée"},
+    {"sens2_alt", "Impulsions envoyées avec la ligne de sens allumée"},
+    {"angle_az", "Où la monture simulée se trouve vraiment"},
+    {"angle_alt", "Où la monture simulée se trouve vraiment"},
+    {"cru_az", "Où le programme croit qu'elle se trouve"},
+    {"cru_alt", "Où le programme croit qu'elle se trouve"},
+    {"cadran_az", "L'azimut réel, le nord en haut"},
+    {"cadran_alt", "L'altitude réelle, l'horizon à droite"},
+    {"pose", "La monture simulée est mise où le programme la croit"},
+    {"zero", "Remet à zéro les impulsions comptées, pas les angles"},
+    {"heure", "L'horloge que le programme lit"},
+    {"date", "Par exemple 2001-08-15 22:00:00"},
+    {"regle", "Met l'horloge à l'instant tapé"},
+    {"cette_nuit", "Le ciel de cette nuit, porté dans les années de l'almanach"},
+    {"retard", "De combien la plus longue demi-impulsion a dépassé son temps"},
+    {"oublie_retard", "Recommence la mesure du retard"},
+    {"chemin_vcd", "Fichier de l'enregistrement des lignes"},
+};
+
 QPushButton* bouton(const char* nom, const QString& texte) {
     auto* b = new QPushButton{texte};
     b->setObjectName(nom);
@@ -75,6 +103,8 @@ fenetre_banc::fenetre_banc(etabli& e, horloge_banc& h) : etabli_(e), horloge_(h)
     auto* raquette = new raquette_banc{etabli_.port(), this};
     rang->addWidget(raquette);
     raquette->ecoute(this);
+    for (const auto& [nom, texte] : bulles)
+        findChild<QWidget*>(nom)->setToolTip(texte);
     rafraichit();
     startTimer(periode_ms);
 }
@@ -159,7 +189,6 @@ QWidget* fenetre_banc::fait_horloge() {
     date_->setPlaceholderText("2001-08-15 22:00:00");
     auto* regle = bouton("regle", "Régler");
     auto* revient = bouton("cette_nuit", "Cette nuit");
-    revient->setToolTip("Le ciel de cette nuit, porté dans les années de l'almanach");
     const auto met_a_l_heure = [this] {
         const auto i = lit_date(date_->text().trimmed().toStdString());
         if (i)
