@@ -7,7 +7,7 @@ set -euo pipefail
 paquets=(g++ cmake ninja-build ccache qt6-base-dev qt6-base-dev-tools libgl-dev fonts-dejavu-core)
 case "${1:-construire}" in
 construire) ;;
-verifier) paquets+=(clang clang-tidy libclang-rt-14-dev libgtest-dev xvfb xauth python3 python3-erfa python3-astropy python3-pil) ;;
+verifier) paquets+=(clang clang-tidy libclang-rt-14-dev libgtest-dev xvfb xauth xdotool indi-bin python3 python3-erfa python3-astropy python3-pil) ;;
 mesurer) paquets+=(libbenchmark-dev xvfb xauth) ;;
 couverture) paquets+=(clang llvm libclang-rt-14-dev libgtest-dev xvfb xauth python3) ;;
 captures) paquets+=(xvfb xauth) ;;

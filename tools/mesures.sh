@@ -7,7 +7,7 @@ for b in banc_attente banc_port_simule banc_raquette banc_pointage banc_suivi; d
     printf '\n== %s\n' "$b"
     "$construit/$b"
 done
-for b in banc_jog banc_horloge banc_demarrage banc_retard; do
+for b in banc_jog banc_planetarium banc_horloge banc_demarrage banc_retard; do
     printf '\n== %s\n' "$b"
     tests/fenetres/ecran.sh "$construit/$b"
 done

@@ -7,11 +7,13 @@
 #include "bench/port_simule.h"
 #include "catalogue/catalogue.h"
 #include "fields/Frmnotes_champs.h"
+#include "fields/frminterface_champs.h"
 #include "frame/programme.h"
 #include "machines/virtual/boucle_virtuelle.h"
 #include "machines/virtual/entete_image.h"
 #include "machines/virtual/scenario.h"
 #include "machines/virtual/vue_scenario.h"
+#include "remote/planetarium.h"
 
 #include <cstdlib>
 #include <map>
@@ -123,14 +125,27 @@ void scenario(std::string_view octets) {
     exige((statut == 0) == explications.str().empty()); // every refusal is explained, and nothing else
 }
 
+// Whatever a client sends, in pieces of whatever length, the next good command is answered.
+void client(std::string_view octets) {
+    avec_fichier("notes.txt", {}, [octets] {
+        frminterface::barequa.visible(true);
+        planetarium::liaison l{1};
+        for (std::size_t i = 0; i < octets.size();) {
+            const auto n = static_cast<unsigned char>(octets[i]) % 16U;
+            l.recoit(octets.substr(i + 1, n));
+            i += n + 1;
+        }
+        exige(l.recoit("#:GVP#").ends_with("Velmoria#"));
+        planetarium::arrete(true);
+    });
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t taille) {
-    static const std::map<std::string, void (*)(std::string_view)> cibles = {{"reglages", reglages},
-                                                                             {"notes", notes},
-                                                                             {"catalogues", catalogues},
-                                                                             {"image", image},
-                                                                             {"scenario", scenario}};
+    static const std::map<std::string, void (*)(std::string_view)> cibles = {
+        {"reglages", reglages}, {"notes", notes},       {"catalogues", catalogues},
+        {"image", image},       {"scenario", scenario}, {"planetarium", client}};
     static const auto essaie = cibles.at(std::getenv("CIBLE"));
     essaie({reinterpret_cast<const char*>(octets), taille});
     return 0;

@@ -9,7 +9,7 @@ cmake -S . -B build/fuzz -G Ninja -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYP
 cmake --build build/fuzz --target fuzz -j "$(nproc)" >/dev/null
 mkdir -p build/fuzz/trouve
 statut=0
-for cible in reglages notes catalogues image scenario; do
+for cible in reglages notes catalogues image scenario planetarium; do
     depart=build/fuzz/depart/$cible
     mkdir -p "$depart" "build/fuzz/corpus/$cible"
     find tools/fuzz/corpus -name "$cible-*" -exec cp -t "$depart" {} +
@@ -18,6 +18,7 @@ for cible in reglages notes catalogues image scenario; do
     notes) cp data/notes.txt "$depart" ;;
     catalogues) for f in data/*.cat; do head -n 30 "$f" >"$depart/${f##*/}"; done ;;
     image) for f in data/*/*.gif data/*/*.jpg; do head -c 1000 "$f" >"$depart/${f##*/}"; done ;;
+    planetarium) sed -n 's/^.*planetarium //p' tests/scenarios/planetarium.scn >"$depart/commandes" ;;
     scenario) cp tests/scenarios/*.scn "$depart" ;;
     esac
     CIBLE=$cible build/fuzz/tools/fuzz/fuzz -max_total_time="${1:-600}" -max_len=16384 -timeout=20 -rss_limit_mb=4096 \
