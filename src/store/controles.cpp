@@ -110,28 +110,26 @@ void cliquable::au_relachement(std::function<void()> f) { r().relachement = std:
 void cliquable::agit() { repond(r().clic); }
 
 void cliquable::clic() {
-    if (!joignable())
-        return;
-    repond(r().appui);
-    repond(r().relachement);
-    agit();
+    appuie();
+    relache();
 }
 
 void cliquable::appuie() {
     if (!joignable())
         return;
+    v().tenu = true;
     repond(r().appui);
     if (a(style::arret))
         agit();
-    else
-        v().tenu = true;
 }
 
+// A release belongs to its press: an unload between them lets go of the button, and nothing is loaded anew.
 void cliquable::relache() {
-    if (!joignable())
+    if (!v().tenu)
         return;
-    repond(r().relachement);
-    if (std::exchange(v().tenu, false))
+    if (joignable())
+        repond(r().relachement);
+    if (std::exchange(v().tenu, false) && joignable() && !a(style::arret))
         agit();
 }
 
@@ -190,7 +188,8 @@ bool cliquable::a_une_commande() const { return r().clic || r().appui || r().rel
 
 void entree::ouvre(const entree* defaut) {
     acces();
-    if (auto* choisie = plateforme::courante.vue->ouvre_menu(*this, defaut))
+    auto* choisie = plateforme::courante.vue->ouvre_menu(*this, defaut);
+    if (choisie && fiche().est_charge()) // not closed meanwhile
         choisie->clic();
 }
 

@@ -135,7 +135,7 @@ class cliquable : public legendable {
     void au_relachement(std::function<void()> f);
     void clic();    ///< a user's whole click
     void appuie();  ///< mouse button down: stop buttons act here
-    void relache(); ///< mouse button up: the others act here
+    void relache(); ///< mouse button up: the others act here, if the panel has stayed loaded since
     bool a_une_commande() const;
 
   protected:
