@@ -10,15 +10,22 @@
 #include "machines/qt/mesures.h"
 #include "machines/qt/pieces.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace banc {
 
@@ -92,21 +99,49 @@ QPushButton* bouton(const char* nom, const QString& texte) {
 fenetre_banc::fenetre_banc(etabli& e, horloge_banc& h) : etabli_(e), horloge_(h) {
     setObjectName("banc");
     setWindowTitle("Velmoria : banc d'essai");
-    auto* rang = new QHBoxLayout{this};
-    rang->setSizeConstraint(QLayout::SetFixedSize);
-    auto* colonne = new QVBoxLayout;
+    auto* contenu = new QWidget;
+    auto* colonne = new QVBoxLayout{contenu};
     colonne->addWidget(fait_lignes_du_port());
     colonne->addWidget(fait_axes());
+    auto* raquette = new raquette_banc{etabli_.port(), this};
+    colonne->addWidget(raquette);
     colonne->addWidget(fait_horloge());
     colonne->addWidget(fait_mesures());
-    rang->addLayout(colonne);
-    auto* raquette = new raquette_banc{etabli_.port(), this};
-    rang->addWidget(raquette);
+    // Scrolled on a screen that is too low for it.
+    auto* rouleau = new QScrollArea;
+    rouleau->setWidget(contenu);
+    rouleau->setWidgetResizable(true);
+    rouleau->setFrameShape(QFrame::NoFrame);
+    rouleau->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto* tout = new QVBoxLayout{this};
+    tout->setContentsMargins(0, 0, 0, 0);
+    tout->addWidget(rouleau);
     raquette->ecoute(this);
     for (const auto& [nom, texte] : bulles)
         findChild<QWidget*>(nom)->setToolTip(texte);
     rafraichit();
+    resize(contenu->sizeHint() + QSize{rouleau->verticalScrollBar()->sizeHint().width(), 0});
     startTimer(periode_ms);
+}
+
+// The first time beside the main frame; on a screen too narrow for that, below its toolbars.
+void fenetre_banc::showEvent(QShowEvent* e) {
+    QWidget::showEvent(e);
+    constexpr int bordure = 8; // at each side, and above, what the window system may put around a window
+    constexpr int titre = 32;
+    for (auto* w : QApplication::topLevelWidgets()) {
+        const auto* principale = qobject_cast<QMainWindow*>(w);
+        if (!principale || !principale->isVisible() || std::exchange(placee_, true))
+            continue;
+        const auto ecran = w->screen()->availableGeometry();
+        w->move(ecran.topLeft());
+        const int a_cote = ecran.left() + w->width() + 2 * bordure;
+        const int x = std::min(a_cote, ecran.right() + 1 - bordure - width());
+        const int y = ecran.top() + (x < a_cote ? titre + principale->centralWidget()->y() : 0);
+        if (const int reste = ecran.bottom() + 1 - y - titre - bordure; height() > reste)
+            resize(width(), reste);
+        move(x, y);
+    }
 }
 
 QWidget* fenetre_banc::fait_lignes_du_port() {
@@ -124,41 +159,28 @@ QWidget* fenetre_banc::fait_lignes_du_port() {
 QWidget* fenetre_banc::fait_axes() {
     auto* groupe = new QGroupBox{"Monture"};
     auto* grille = new QGridLayout{groupe};
-    grille->setHorizontalSpacing(12);
-    const char* titres[] = {"impulsions/s", "sens 0", "sens levé", "angle réel", "position crue"};
-    for (int i = 0; i < 5; ++i) {
-        auto* t = new QLabel{QString::fromUtf8(titres[i])};
-        t->setAlignment(Qt::AlignRight);
-        grille->addWidget(t, 0, i + 1);
-    }
+    int ligne_de_titre = 1;
+    for (const auto* titre : {"impulsions/s", "sens 0", "sens levé", "angle réel", "position crue"})
+        grille->addWidget(new QLabel{titre}, ligne_de_titre++, 0);
     static constexpr const char* noms[2][5] = {
         {"cadence_az", "sens0_az", "sens8_az", "angle_az", "cru_az"},
         {"cadence_alt", "sens0_alt", "sens2_alt", "angle_alt", "cru_alt"}};
-    for (int a = 0; a < 2; ++a) {
-        auto& l = axes_[static_cast<std::size_t>(a)];
-        grille->addWidget(new QLabel{a == 0 ? "Azimut (A.D)" : "Altitude (Déc.)"}, a + 1, 0);
-        l.cadence = chiffre(noms[a][0], 82);
-        l.zero = chiffre(noms[a][1], 76);
-        l.leve = chiffre(noms[a][2], 76);
-        l.angle = chiffre(noms[a][3], 104);
-        l.cru = chiffre(noms[a][4], 104);
-        int colonne = 1;
-        for (auto* champ : {l.cadence, l.zero, l.leve, l.angle, l.cru})
-            grille->addWidget(champ, a + 1, colonne++);
-    }
-    auto* rang = new QHBoxLayout;
     // Azimuth from the top clockwise, as on a map; altitude from the right, upwards, as seen from the side.
     cadrans_ = {new cadran{groupe, 0, 1}, new cadran{groupe, 90, -1}};
     cadrans_[0]->setObjectName("cadran_az");
     cadrans_[1]->setObjectName("cadran_alt");
-    rang->addStretch();
-    rang->addWidget(new QLabel{"Azimut (A.D)"});
-    rang->addWidget(cadrans_[0]);
-    rang->addSpacing(24);
-    rang->addWidget(new QLabel{"Altitude (Déc.)"});
-    rang->addWidget(cadrans_[1]);
-    rang->addStretch();
-    grille->addLayout(rang, 3, 0, 1, 6);
+    for (int a = 0; a < 2; ++a) {
+        auto& l = axes_[static_cast<std::size_t>(a)];
+        const auto* axe = a == 0 ? "Azimut (A.D)" : "Altitude (Déc.)";
+        grille->addWidget(new QLabel{axe}, 0, a + 1, Qt::AlignRight);
+        int rang = 0;
+        for (auto** champ : {&l.cadence, &l.zero, &l.leve, &l.angle, &l.cru}) {
+            *champ = chiffre(noms[a][rang++], 108);
+            grille->addWidget(*champ, rang, a + 1);
+        }
+        grille->addWidget(new QLabel{axe}, 0, a + 3, Qt::AlignHCenter);
+        grille->addWidget(cadrans_[static_cast<std::size_t>(a)], 1, a + 3, 5, 1, Qt::AlignCenter);
+    }
 
     auto* boutons = new QHBoxLayout;
     auto* pose = bouton("pose", "Poser la monture à la position crue");
@@ -173,7 +195,7 @@ QWidget* fenetre_banc::fait_axes() {
     });
     boutons->addWidget(pose);
     boutons->addWidget(zero);
-    grille->addLayout(boutons, 4, 0, 1, 6);
+    grille->addLayout(boutons, 6, 0, 1, 5);
     return groupe;
 }
 
@@ -229,11 +251,12 @@ QWidget* fenetre_banc::fait_mesures() {
     enregistre_ = bouton("enregistre", "Enregistrer les lignes");
     etat_ = new QLabel;
     etat_->setObjectName("etat_vcd");
+    etat_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // a long path makes no window wider
     QObject::connect(enregistre_, &QPushButton::clicked, this, [this] { bascule_enregistrement(); });
     grille->addWidget(new QLabel{"Enregistrement (VCD)"}, 1, 0);
-    grille->addWidget(chemin_, 1, 1);
     grille->addWidget(enregistre_, 1, 2);
-    grille->addWidget(etat_, 2, 0, 1, 3);
+    grille->addWidget(chemin_, 2, 0, 1, 3);
+    grille->addWidget(etat_, 3, 0, 1, 3);
     grille->setColumnStretch(1, 1);
     if (plateforme::qt::guichet_ouvert) {
         planetarium_ = new QLabel;

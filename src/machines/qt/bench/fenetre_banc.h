@@ -26,6 +26,7 @@ class fenetre_banc final : public QWidget {
     void enregistre_dans(const QString& chemin);
 
   protected:
+    void showEvent(QShowEvent* e) override;
     void timerEvent(QTimerEvent*) override;
 
   private:
@@ -55,6 +56,7 @@ class fenetre_banc final : public QWidget {
     QPushButton* enregistre_ = nullptr;
     QLabel* etat_ = nullptr;
     QLabel* planetarium_ = nullptr; // where the program listens to one
+    bool placee_ = false;
 };
 
 } // namespace banc

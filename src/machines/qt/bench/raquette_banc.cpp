@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -42,7 +43,8 @@ int code_raquette(touche_raquette t, int vitesse) {
 }
 
 raquette_banc::raquette_banc(port_simule& p, QWidget* parent) : QGroupBox("Raquette", parent), port_(p) {
-    auto* colonne = new QVBoxLayout{this};
+    auto* rang = new QHBoxLayout{this};
+    rang->setSpacing(16);
     auto* croix = new QGridLayout;
     struct place {
         const char* nom;
@@ -67,12 +69,12 @@ raquette_banc::raquette_banc(port_simule& p, QWidget* parent) : QGroupBox("Raque
         connect(b, &QPushButton::pressed, this, [this, t] { tient(t); });
         connect(b, &QPushButton::released, this, [this] { lache(); });
     }
-    colonne->addLayout(croix);
-    colonne->addWidget(fait_vitesse("raquette_vitesse_az", "Vitesse azimut", vitesse_az_));
-    colonne->addWidget(fait_vitesse("raquette_vitesse_alt", "Vitesse altitude", vitesse_alt_));
-    auto* aide = new QLabel{"Maintenir une touche, ou une flèche\ndu clavier. Agit en « mode manuel »."};
-    colonne->addWidget(aide);
-    colonne->addStretch();
+    rang->addLayout(croix);
+    auto* vitesses = new QVBoxLayout;
+    vitesses->addWidget(fait_vitesse("raquette_vitesse_az", "Vitesse azimut", vitesse_az_));
+    vitesses->addWidget(fait_vitesse("raquette_vitesse_alt", "Vitesse altitude", vitesse_alt_));
+    rang->addLayout(vitesses, 1);
+    rang->addWidget(new QLabel{"Maintenir une touche,\nou une flèche du clavier.\nAgit en « mode manuel »."});
 }
 
 QWidget* raquette_banc::fait_vitesse(const char* nom, const QString& titre, QSlider*& curseur) {

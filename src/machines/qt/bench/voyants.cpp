@@ -16,7 +16,7 @@ namespace {
 // From the highest line to the lowest, as a byte is written.
 constexpr std::array<const char*, 8> noms = {"128\nraquette", "64",         "32",           "16\nraquette",
                                              "8\nsens az.",   "4\npas az.", "2\nsens alt.", "1\npas alt."};
-constexpr int largeur = 66;
+constexpr int largeur = 62;
 constexpr int hauteur = 58;
 constexpr int diametre = 18;
 
