@@ -5,17 +5,13 @@
 #include "machines/qt/pieces.h"
 #include "machines/qt/surface.h"
 
-#include <QAction>
-#include <QCheckBox>
 #include <QComboBox>
-#include <QGroupBox>
 #include <QLineEdit>
+#include <QListWidget>
+#include <QMdiSubWindow>
 #include <QPlainTextEdit>
 #include <QProgressBar>
-#include <QRadioButton>
-#include <QScrollBar>
 #include <QSignalBlocker>
-#include <QToolBar>
 #include <cmath>
 
 namespace plateforme::qt {
@@ -26,6 +22,12 @@ using shell::controle;
 using shell::genre;
 
 template <class T> T* en(QObject* piece) { return static_cast<T*>(piece); }
+
+// Widgets and actions alike; a piece without the property is left as it is.
+void pose(QObject* piece, const char* propriete, const QVariant& valeur) {
+    if (piece->metaObject()->indexOfProperty(propriete) >= 0)
+        piece->setProperty(propriete, valeur);
+}
 
 void texte_saisi(const controle& c, QObject* piece) {
     const auto t = affiche(c.regarde_texte());
@@ -46,32 +48,12 @@ void texte_saisi(const controle& c, QObject* piece) {
 }
 
 void texte(const controle& c, QObject* piece) {
-    const auto t = affiche(c.regarde_texte());
-    switch (c.espece()) {
-    case genre::texte:
+    if (c.espece() == genre::texte)
         texte_saisi(c, piece);
-        return;
-    case genre::etiquette:
+    else if (c.espece() == genre::etiquette)
         en<etiquette>(piece)->ecrit(c.regarde_texte());
-        return;
-    case genre::bouton:
-    case genre::coche:
-    case genre::option:
-        en<QAbstractButton>(piece)->setText(t);
-        return;
-    case genre::cadre:
-        en<QGroupBox>(piece)->setTitle(t);
-        return;
-    case genre::entree:
-    case genre::outil:
-        en<QAction>(piece)->setText(t);
-        return;
-    case genre::barre_etat:
-        en<QWidget>(piece)->findChild<QLabel*>()->setText(t);
-        return;
-    default:
-        return;
-    }
+    else
+        pose(piece, c.espece() == genre::cadre ? "title" : "text", affiche(c.regarde_texte()));
 }
 
 // The common case is lines added at the end; anything else is filled anew.
@@ -95,51 +77,35 @@ template <class W> void lignes(const controle& c, W* w) {
         w->addItems(ajout);
 }
 
-void position(const controle& c, QObject* piece) {
-    const int k = c.regarde_position();
-    if (c.espece() == genre::deroulante) {
-        en<QComboBox>(piece)->setCurrentIndex(k);
-        return;
-    }
-    auto* w = en<QListWidget>(piece);
-    w->setCurrentRow(k);
-    if (k < 0)
+void position(const controle& c, QComboBox* w) { w->setCurrentIndex(c.regarde_position()); }
+
+void position(const controle& c, QListWidget* w) {
+    w->setCurrentRow(c.regarde_position());
+    if (c.regarde_position() < 0)
         w->clearSelection();
 }
 
+// Calls `f` with the widget of a list, whichever of the two kinds it is; nothing for other controls.
+template <class F> void sur_liste(const controle& c, QObject* piece, F f) {
+    if (c.espece() == genre::deroulante)
+        f(en<QComboBox>(piece));
+    else if (c.espece() == genre::liste)
+        f(en<QListWidget>(piece));
+}
+
 void valeur(const controle& c, QObject* piece) {
-    const auto& d = c.comme_dessine();
-    switch (c.espece()) {
-    case genre::barre:
-    case genre::curseur:
-        en<QAbstractSlider>(piece)->setValue(static_cast<int>(c.regarde_valeur()));
-        return;
-    case genre::progression: {
-        auto* w = en<QProgressBar>(piece);
-        const double part = d.max > d.min ? (c.regarde_valeur() - d.min) / (d.max - d.min) : 0;
-        w->setValue(static_cast<int>(std::lround(part * w->maximum())));
-        return;
+    double n = c.regarde_valeur();
+    if (c.espece() == genre::progression) {
+        const auto& d = c.comme_dessine();
+        n = d.max > d.min ? (n - d.min) / (d.max - d.min) * en<QProgressBar>(piece)->maximum() : 0;
     }
-    default:
-        return;
-    }
+    pose(piece, "value", static_cast<int>(std::lround(n)));
 }
 
 void coche(const controle& c, QObject* piece) {
-    if (c.espece() == genre::entree) {
-        auto* a = en<QAction>(piece);
-        if (c.regarde_coche())
-            a->setCheckable(true);
-        a->setChecked(c.regarde_coche());
-        return;
-    }
-    if (c.espece() != genre::coche && c.espece() != genre::option)
-        return;
-    auto* b = en<QAbstractButton>(piece);
-    const bool exclusif = b->autoExclusive();
-    b->setAutoExclusive(false); // else an option could not be cleared before another is set
-    b->setChecked(c.regarde_coche());
-    b->setAutoExclusive(exclusif);
+    if (c.regarde_coche())
+        pose(piece, "checkable", true);
+    pose(piece, "checked", c.regarde_coche());
 }
 
 void image(const controle& c, QObject* piece) {
@@ -154,18 +120,14 @@ void image(const controle& c, QObject* piece) {
         w->montre({});
 }
 
-void visible(const controle& c, QObject* piece) {
-    if (piece->isWidgetType())
-        en<QWidget>(piece)->setVisible(c.regarde_visible());
-    else
-        en<QAction>(piece)->setVisible(c.regarde_visible());
-}
-
-void actif(const controle& c, QObject* piece) {
-    if (piece->isWidgetType())
-        en<QWidget>(piece)->setEnabled(c.regarde_actif());
-    else
-        en<QAction>(piece)->setEnabled(c.regarde_actif());
+// Beyond the edge of its panel a control is hidden: the keys must not reach what the eye cannot see.
+bool dans_le_panneau(const QWidget* w) {
+    if (!w)
+        return true;
+    for (const auto* p = w->parentWidget(); p; p = p->parentWidget())
+        if (qobject_cast<const QMdiSubWindow*>(p->parentWidget()))
+            return QRect{w->mapTo(p, QPoint{}), w->size()}.intersects(p->rect());
+    return true;
 }
 
 void place(const controle& c, QObject* piece) {
@@ -189,21 +151,21 @@ void accorde(const controle& c, QObject* piece, aspect a) {
     case aspect::texte:
         return texte(c, piece);
     case aspect::lignes:
-        if (c.espece() == genre::deroulante)
-            lignes(c, en<QComboBox>(piece));
-        else
-            lignes(c, en<QListWidget>(piece));
-        return position(c, piece);
+        return sur_liste(c, piece, [&c](auto* w) {
+            lignes(c, w);
+            position(c, w);
+        });
     case aspect::position:
-        return position(c, piece);
+        return sur_liste(c, piece, [&c](auto* w) { position(c, w); });
     case aspect::valeur:
         return valeur(c, piece);
     case aspect::coche:
         return coche(c, piece);
     case aspect::visible:
-        return visible(c, piece);
+        return pose(piece, "visible",
+                    c.regarde_visible() && dans_le_panneau(qobject_cast<const QWidget*>(piece)));
     case aspect::actif:
-        return actif(c, piece);
+        return pose(piece, "enabled", c.regarde_actif());
     case aspect::place:
         return place(c, piece);
     case aspect::image:
@@ -220,17 +182,12 @@ void accorde(const controle& c, QObject* piece, aspect a) {
 }
 
 void accorde_tout(const controle& c, QObject* piece) {
-    const bool a_des_lignes = c.espece() == genre::liste || c.espece() == genre::deroulante;
-    if (a_des_lignes) {
-        const QSignalBlocker sans_echo{piece};
-        if (c.espece() == genre::liste)
-            en<QListWidget>(piece)->clear();
-        else
-            en<QComboBox>(piece)->clear();
-        accorde(c, piece, aspect::lignes);
-    }
-    for (const auto a : {aspect::texte, aspect::valeur, aspect::coche, aspect::place, aspect::image,
-                         aspect::enfonce, aspect::dessin, aspect::actif, aspect::visible})
+    sur_liste(c, piece, [](auto* w) {
+        const QSignalBlocker sans_echo{w};
+        w->clear();
+    });
+    for (const auto a : {aspect::lignes, aspect::texte, aspect::valeur, aspect::coche, aspect::place,
+                         aspect::image, aspect::enfonce, aspect::dessin, aspect::actif, aspect::visible})
         accorde(c, piece, a);
 }
 

@@ -9,12 +9,13 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
-#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QSlider>
+#include <QToolButton>
+#include <QVBoxLayout>
 #include <algorithm>
 
 namespace plateforme::qt {
@@ -30,6 +31,15 @@ Qt::Orientation sens(const controle& c) {
     return p.l >= p.h ? Qt::Horizontal : Qt::Vertical;
 }
 
+// An act counts only while its panel is on screen: one that comes late, such as the release of a button whose
+// panel a key has closed meanwhile, would load the panel anew.
+template <class W, class S, class F> void relie(W* w, S signal, controle& c, F acte) {
+    QObject::connect(w, signal, w, [&c, acte](auto... valeurs) {
+        if (c.fiche().est_visible())
+            acte(valeurs...);
+    });
+}
+
 QWidget* texte(champ_texte& c, QWidget* parent) {
     if (c.a(multiligne)) {
         auto* w = new page_de_texte{parent};
@@ -39,19 +49,22 @@ QWidget* texte(champ_texte& c, QWidget* parent) {
         QFont police{QStringList{"Arial", w->font().family()}};
         police.setPixelSize(w->font().pixelSize());
         w->setFont(police);
-        QObject::connect(w, &QPlainTextEdit::textChanged, w,
-                         [w, &c] { c.saisit(lu(lignes_de(*w).replace("\n", "\r\n"))); });
+        relie(w, &QPlainTextEdit::textChanged, c,
+              [w, &c] { c.saisit(lu(lignes_de(*w).replace("\n", "\r\n"))); });
         return w;
     }
     auto* w = new ligne_de_texte{parent};
     w->setContextMenuPolicy(Qt::NoContextMenu);
     w->setAlignment((c.a(centre) ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignVCenter);
-    QObject::connect(w, &QLineEdit::textEdited, w, [&c](const QString& t) { c.saisit(lu(t)); });
+    relie(w, &QLineEdit::textEdited, c, [&c](const QString& t) { c.saisit(lu(t)); });
     return w;
 }
 
+// A stop button acts at the press, the others at a release over the button: the store knows which.
 QWidget* pousse(champ_bouton& c, QWidget* parent) {
-    auto* w = new bouton{c, parent};
+    auto* w = new bouton{parent};
+    relie(w, &QPushButton::pressed, c, [&c] { c.appuie(); });
+    relie(w, &QPushButton::clicked, c, [&c](bool) { c.relache(); });
     if (*c.comme_dessine().image) {
         constexpr int cote = 32; // of the drawings, with room for the button's edge
         const auto place = rectangle(c.regarde_place());
@@ -64,7 +77,7 @@ QWidget* pousse(champ_bouton& c, QWidget* parent) {
 
 QWidget* case_a_cocher(champ_coche& c, QWidget* parent) {
     auto* w = new QCheckBox{parent};
-    QObject::connect(w, &QCheckBox::clicked, w, [w, &c](bool oui) {
+    relie(w, &QCheckBox::clicked, c, [w, &c](bool oui) {
         c.regle(oui);
         accorde(c, w, aspect::coche);
     });
@@ -73,7 +86,8 @@ QWidget* case_a_cocher(champ_coche& c, QWidget* parent) {
 
 QWidget* option(champ_option& c, QWidget* parent) {
     auto* w = new QRadioButton{parent};
-    QObject::connect(w, &QRadioButton::clicked, w, [w, &c] {
+    w->setAutoExclusive(false); // the store clears the others; an arrow key only moves the focus
+    relie(w, &QRadioButton::clicked, c, [w, &c](bool) {
         c.clic();
         accorde(c, w, aspect::coche);
     });
@@ -82,7 +96,7 @@ QWidget* option(champ_option& c, QWidget* parent) {
 
 QWidget* deroulante(champ_deroulante& c, QWidget* parent) {
     auto* w = new QComboBox{parent};
-    QObject::connect(w, &QComboBox::activated, w, [w, &c](int k) {
+    relie(w, &QComboBox::activated, c, [w, &c](int k) {
         c.choisit(k);
         accorde(c, w, aspect::position);
     });
@@ -101,7 +115,7 @@ template <class W> QWidget* barre(champ_barre& c, QWidget* parent) {
         w->setTickPosition(QSlider::TicksBelow);
         w->setTickInterval(1);
     }
-    QObject::connect(w, &W::valueChanged, w, [w, &c](int n) {
+    relie(w, &W::valueChanged, c, [w, &c](int n) {
         c.regle(n);
         accorde(c, w, aspect::valeur);
     });
@@ -113,6 +127,25 @@ QWidget* progression(QWidget* parent) {
     auto* w = new QProgressBar{parent};
     w->setRange(0, finesse);
     w->setTextVisible(false);
+    return w;
+}
+
+// Two arrow buttons, one above the other.
+QWidget* hautbas(champ_hautbas& c, QWidget* parent) {
+    auto* w = new QWidget{parent};
+    auto* pile = new QVBoxLayout{w};
+    pile->setContentsMargins(0, 0, 0, 0);
+    pile->setSpacing(0);
+    for (const bool plus : {true, false}) {
+        auto* b = new QToolButton{w};
+        b->setArrowType(plus ? Qt::UpArrow : Qt::DownArrow);
+        b->setAutoRepeat(true);
+        b->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+        b->setObjectName(affiche(c.nom()) + (plus ? ".plus" : ".moins"));
+        b->setAccessibleName(b->objectName());
+        pile->addWidget(b);
+        relie(b, &QToolButton::clicked, c, [&c, plus](bool) { plus ? c.plus() : c.moins(); });
+    }
     return w;
 }
 
@@ -137,7 +170,7 @@ QWidget* piece(controle& c, QWidget* parent) {
     case genre::curseur:
         return barre<QSlider>(en<champ_barre>(c), parent);
     case genre::hautbas:
-        return new hautbas{en<champ_hautbas>(c), parent};
+        return hautbas(en<champ_hautbas>(c), parent);
     case genre::progression:
         return progression(parent);
     case genre::image:

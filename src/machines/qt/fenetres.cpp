@@ -8,11 +8,11 @@
 #include "machines/qt/pieces.h"
 #include "machines/qt/style.h"
 
-#include <QApplication>
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QDeadlineTimer>
-#include <QKeyEvent>
 #include <QLabel>
+#include <QMainWindow>
 #include <QMenuBar>
 #include <QPainter>
 #include <QScreen>
@@ -29,55 +29,20 @@ namespace {
 
 using namespace shell;
 
-// The store decides what a close box does: the widget itself never closes.
-void demande_fermeture(QCloseEvent* e, panneau& p) {
-    e->ignore();
-    p.ferme();
-}
-
 class cadre_principal final : public QMainWindow {
   public:
     explicit cadre_principal(panneau& p) : fiche_(p) { setContextMenuPolicy(Qt::PreventContextMenu); }
 
   protected:
-    void closeEvent(QCloseEvent* e) override { demande_fermeture(e, fiche_); }
-
-  private:
-    panneau& fiche_;
-};
-
-class sous_fenetre final : public QMdiSubWindow {
-  public:
-    sous_fenetre(panneau& p, Qt::WindowFlags traits) : QMdiSubWindow(nullptr, traits), fiche_(p) {
-        setSystemMenu(nullptr); // its entries would not be in French
-        setContextMenuPolicy(Qt::PreventContextMenu);
-    }
-
-  protected:
-    void closeEvent(QCloseEvent* e) override { demande_fermeture(e, fiche_); }
-    void keyPressEvent(QKeyEvent* e) override {
-        if (e->key() == Qt::Key_Escape)
-            fiche_.touche_echap();
-        else
-            QMdiSubWindow::keyPressEvent(e);
+    // The store decides what a close box does.
+    void closeEvent(QCloseEvent* e) override {
+        e->ignore();
+        fiche_.ferme();
     }
 
   private:
     panneau& fiche_;
 };
-
-Qt::WindowFlags traits_de(const options_panneau& o) {
-    Qt::WindowFlags t = Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint;
-    if (o.boite_de_fermeture != fermeture::aucune)
-        t |= Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
-    if (!o.taille_fixe)
-        t |= Qt::WindowMaximizeButtonHint;
-    return t;
-}
-
-void range(fenetre& f, const controle& c, QObject* piece) {
-    f.pieces[static_cast<std::size_t>(c.rang())] = piece;
-}
 
 // What a drawing stands on. A style sheet would keep the colours of the night from its controls.
 class fond_noir final : public QWidget {
@@ -96,23 +61,18 @@ bool a_un_dessin(const panneau& p) {
 
 // All keys of a window with a drawing go to the drawing.
 void cede_au_dessin(const fenetre& f) {
-    if (!a_un_dessin(*f.fiche))
+    if (!a_un_dessin(f.fiche))
         return;
-    for (const auto* c : f.fiche->controles())
-        if (auto* piece = f.pieces[static_cast<std::size_t>(c->rang())];
-            piece && piece->isWidgetType() && c->espece() != genre::surface)
-            static_cast<QWidget*>(piece)->setFocusPolicy(Qt::NoFocus);
+    for (const auto* c : f.fiche.controles())
+        if (auto* w = f.pieces.widget(*c); w && c->espece() != genre::surface)
+            w->setFocusPolicy(Qt::NoFocus);
 }
 
 // A control's frame was declared before it, so its widget is there already.
 void remplit(fenetre& f, QWidget* contenu) {
-    for (auto* c : f.fiche->controles()) {
-        auto* parent = c->cadre()
-                           ? static_cast<QWidget*>(f.pieces[static_cast<std::size_t>(c->cadre()->rang())])
-                           : contenu;
+    for (auto* c : f.fiche.controles())
         if (c->espece() != genre::entree)
-            range(f, *c, fabrique(*c, parent));
-    }
+            f.pieces.range(*c, fabrique(*c, c->cadre() ? f.pieces.widget(*c->cadre()) : contenu));
     cede_au_dessin(f);
 }
 
@@ -144,43 +104,48 @@ QAction* outil(QToolBar& barre, champ_outil& c) {
     return action;
 }
 
-QStatusBar* barre_etat(QMainWindow& w, const controle& c) {
+QLabel* barre_etat(QMainWindow& w, const controle& c) {
     auto* barre = w.statusBar();
     barre->setObjectName(affiche(c.nom()));
     barre->setAccessibleName(barre->objectName());
     auto* panneau = new QLabel{barre};
     panneau->setFrameStyle(QFrame::Panel | QFrame::Sunken);
     barre->addWidget(panneau, 1);
-    return barre;
+    return panneau;
 }
 
 QWidget* principal(fenetre& f) {
-    auto* w = new cadre_principal{*f.fiche};
-    f.zone = new QMdiArea{w};
-    f.zone->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    f.zone->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    f.zone->setBackground(fond_de_la_zone());
-    w->setCentralWidget(f.zone);
-    for (auto* c : f.fiche->controles()) {
+    auto* w = new cadre_principal{f.fiche};
+    f.enfants = new zone{w};
+    w->setCentralWidget(f.enfants);
+    for (auto* c : f.fiche.controles()) {
         if (c->espece() == genre::barre_outils)
-            range(f, *c, barre_outils(*w, *c));
+            f.pieces.range(*c, barre_outils(*w, *c));
         else if (c->espece() == genre::outil)
-            range(f, *c,
-                  outil(*static_cast<QToolBar*>(f.pieces[static_cast<std::size_t>(c->cadre()->rang())]),
-                        static_cast<champ_outil&>(*c)));
+            f.pieces.range(*c, outil(*static_cast<QToolBar*>(f.pieces.widget(*c->cadre())),
+                                     static_cast<champ_outil&>(*c)));
         else if (c->espece() == genre::barre_etat)
-            range(f, *c, barre_etat(*w, *c));
+            f.pieces.range(*c, barre_etat(*w, *c));
     }
-    remplit_barre(*w->menuBar(), *f.fiche, f.pieces);
+    remplit_barre(*w->menuBar(), f.fiche, f.pieces);
     return w;
 }
 
-QWidget* enfant(fenetre& f, QMdiArea& zone) {
-    auto* w = new sous_fenetre{*f.fiche, traits_de(f.fiche->options())};
-    auto* contenu = a_un_dessin(*f.fiche) ? new fond_noir{w} : new QWidget{w};
+QWidget* enfant(fenetre& f, zone& z) {
+    auto* w = f.enfant = new sous_fenetre{f.fiche};
+    auto* contenu = a_un_dessin(f.fiche) ? new fond_noir{w} : new QWidget{w};
+    contenu->setFocusPolicy(Qt::ClickFocus);
     w->setWidget(contenu);
     remplit(f, contenu);
-    zone.addSubWindow(w);
+    for (const auto* c : f.fiche.controles())
+        if (c->a(echap))
+            w->arret = f.pieces.widget(*c);
+    w->a_la_taille = [&f] {
+        for (const auto* c : f.fiche.controles())
+            if (auto* piece = f.pieces.widget(*c))
+                accorde(*c, piece, aspect::visible);
+    };
+    z.addSubWindow(w);
     w->hide();
     return w;
 }
@@ -193,52 +158,54 @@ QWidget* accueil(fenetre& f) {
     return w;
 }
 
-// The stop first, where there is one; else the first control the tab key would reach.
+// The stop first, where there is one; else the first control that no arrow key alters.
 void donne_le_focus(fenetre& f) {
-    QWidget* premier = nullptr;
-    for (const auto* c : f.fiche->controles()) {
-        auto* piece = f.pieces[static_cast<std::size_t>(c->rang())];
-        if (!piece || !piece->isWidgetType())
-            continue;
-        auto* w = static_cast<QWidget*>(piece);
-        if (!(w->focusPolicy() & Qt::TabFocus) || !w->isEnabled() || w->isHidden())
-            continue;
-        if (!premier || c->a(echap))
+    auto* premier = f.enfant->arret;
+    for (const auto* c : f.fiche.controles()) {
+        const bool calme =
+            c->espece() == genre::texte || c->espece() == genre::bouton || c->espece() == genre::surface;
+        auto* w = f.pieces.widget(*c);
+        if (!premier && calme && w && w->focusPolicy() & Qt::TabFocus && w->isEnabled() && w->isVisible())
             premier = w;
-        if (c->a(echap))
-            break;
     }
-    if (premier)
-        premier->setFocus(Qt::OtherFocusReason);
+    (premier ? premier : f.enfant->widget())->setFocus(Qt::OtherFocusReason);
+}
+
+// A frame that opens leaves room for what the window system puts around it.
+QSize au_plus_l_ecran(const QWidget& w, QSize taille) {
+    constexpr QSize bordures{16, 40};
+    return taille.boundedTo(w.screen()->availableSize() - bordures);
 }
 
 void accorde_taille(fenetre& f) {
-    const QSize taille{pixels(f.fiche->regarde_largeur()), pixels(f.fiche->regarde_hauteur())};
+    const auto& p = f.fiche;
+    const QSize taille{pixels(p.regarde_largeur()), pixels(p.regarde_hauteur())};
     auto& w = *f.cadre;
-    if (f.fiche->options().taille_fixe) {
-        w.setFixedSize(taille);
-        return;
-    }
-    if (f.fiche->est_maximise() != w.isMaximized())
+    if (!p.options().taille_fixe && p.est_maximise() != w.isMaximized())
         w.setWindowState(w.windowState() ^ Qt::WindowMaximized);
     // A size the observer gave it stays until the program asks for another.
-    if (std::exchange(f.demandee, taille) != taille)
-        w.resize(f.fiche->options().principal ? taille.boundedTo(w.screen()->availableSize()) : taille);
+    if (std::exchange(f.demandee, taille) == taille)
+        return;
+    if (p.options().taille_fixe)
+        w.setFixedSize(taille);
+    else
+        w.resize(p.options().principal ? au_plus_l_ecran(w, taille) : taille);
+    if (f.enfant && f.enfant->isVisible())
+        f.enfants->ramene(*f.enfant);
 }
 
 void montre(fenetre& f) {
     auto& w = *f.cadre;
-    for (const auto* c : f.fiche->controles())
-        if (auto* piece = f.pieces[static_cast<std::size_t>(c->rang())])
+    for (const auto* c : f.fiche.controles())
+        if (auto* piece = f.pieces.piece(*c))
             accorde_tout(*c, piece);
     accorde_taille(f);
-    if (f.fiche->options().sans_bord) {
+    if (f.fiche.options().sans_bord)
         w.move(w.screen()->availableGeometry().center() - w.rect().center());
-        w.show();
-    } else if (f.fiche->options().principal) {
-        w.show();
-    } else {
-        w.show();
+    if (f.enfant)
+        f.enfants->place(*f.enfant);
+    w.show();
+    if (f.enfant) {
         avance(f);
         donne_le_focus(f);
     }
@@ -246,13 +213,10 @@ void montre(fenetre& f) {
 
 } // namespace
 
-std::unique_ptr<fenetre> cree_fenetre(panneau& p, QMdiArea* zone) {
-    auto f = std::make_unique<fenetre>();
-    f->fiche = &p;
-    f->pieces.resize(p.controles().size());
-    f->cadre = p.options().principal   ? principal(*f)
-               : p.options().sans_bord ? accueil(*f)
-                                       : enfant(*f, *zone);
+std::unique_ptr<fenetre> cree_fenetre(panneau& p, zone* z) {
+    auto f = std::make_unique<fenetre>(p);
+    f->enfants = z;
+    f->cadre = p.options().principal ? principal(*f) : p.options().sans_bord ? accueil(*f) : enfant(*f, *z);
     f->cadre->setObjectName(affiche(p.nom()));
     f->cadre->setAccessibleName(f->cadre->objectName());
     return f;
@@ -260,21 +224,25 @@ std::unique_ptr<fenetre> cree_fenetre(panneau& p, QMdiArea* zone) {
 
 void accorde_fenetre(fenetre& f) {
     auto& w = *f.cadre;
-    w.setWindowTitle(affiche(f.fiche->regarde_legende()));
-    if (!f.fiche->est_visible())
+    w.setWindowTitle(affiche(f.fiche.regarde_legende()));
+    if (f.fiche.est_visible()) {
+        if (w.isHidden())
+            montre(f);
+        else
+            accorde_taille(f);
+    } else if (!f.enfant) {
         w.hide();
-    else if (w.isHidden())
-        montre(f);
-    else
-        accorde_taille(f);
+    } else if (!w.isHidden()) {
+        f.enfants->cache(*f.enfant);
+    }
 }
 
 void avance(fenetre& f) {
     f.cadre->raise();
-    if (auto* sous = qobject_cast<QMdiSubWindow*>(f.cadre.data()))
-        sous->mdiArea()->setActiveSubWindow(sous);
-    else
-        f.cadre->activateWindow();
+    if (!f.enfant)
+        return f.cadre->activateWindow();
+    f.enfants->ramene(*f.enfant);
+    f.enfants->setActiveSubWindow(f.enfant);
 }
 
 void peint(fenetre& f) {

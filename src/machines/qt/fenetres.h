@@ -1,39 +1,37 @@
 // The windows of panels: the main frame with its bars, child windows, the splash.
 #pragma once
 
-#include "store/panneau.h"
+#include "machines/qt/inventaire.h"
+#include "machines/qt/zone.h"
 
-#include <QMainWindow>
-#include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QPointer>
 #include <memory>
-#include <vector>
 
 namespace plateforme::qt {
 
-/// A panel's window and what was made for its controls, by their rank; null where nothing is.
+/// A panel's window and what was made for its controls.
 struct fenetre {
-    fenetre() = default;
+    explicit fenetre(shell::panneau& p) : fiche(p), pieces(p) {}
     ~fenetre() { delete cadre; }
     fenetre(const fenetre&) = delete;
     fenetre& operator=(const fenetre&) = delete;
 
-    shell::panneau* fiche = nullptr;
-    QPointer<QWidget> cadre; ///< the main frame takes its child windows with it
-    std::vector<QObject*> pieces;
-    QMdiArea* zone = nullptr; ///< of the main frame: where child windows live
-    QSize demandee;           ///< the size last asked for by the program, where the observer may change it
+    shell::panneau& fiche;
+    inventaire pieces;
+    QPointer<QWidget> cadre;        ///< the main frame takes its child windows with it
+    zone* enfants = nullptr;        ///< of the main frame: where child windows live
+    sous_fenetre* enfant = nullptr; ///< `cadre`, where it is a child window
+    QSize demandee;                 ///< the size last asked for by the program
 };
 
-/// Makes a panel's window, hidden. `zone` holds the child windows; the main frame, which makes it, and the
+/// Makes a panel's window, hidden. `z` holds the child windows; the main frame, which makes it, and the
 /// splash need none.
-std::unique_ptr<fenetre> cree_fenetre(shell::panneau& p, QMdiArea* zone);
+std::unique_ptr<fenetre> cree_fenetre(shell::panneau& p, zone* z);
 
 /// Caption, size, shown or hidden, as the store has them; all controls too when it comes on screen.
 void accorde_fenetre(fenetre& f);
 
-/// Brings a shown window to the front.
+/// Brings a shown window to the front, and back into the visible part of the main frame.
 void avance(fenetre& f);
 
 /// Paints it before it returns, on screen also where the window system maps windows in its own time.

@@ -9,16 +9,12 @@
 #include <cstdio>
 #include <cstdlib>
 #include <utility>
-#include <vector>
 
 namespace plateforme::qt {
 
 namespace {
 
-std::vector<std::function<void()>>& travaux() {
-    static std::vector<std::function<void()>> liste;
-    return liste;
-}
+std::function<void()> travail;
 
 // A popup holds the mouse, and a splash may lie over the box.
 void degage_l_ecran() {
@@ -30,10 +26,10 @@ void degage_l_ecran() {
 
 } // namespace
 
-void a_la_fin(std::function<void()> f) { travaux().push_back(std::move(f)); }
+void a_la_fin(std::function<void()> f) { travail = std::move(f); }
 
 void fin(int statut) {
-    for (auto& f : std::exchange(travaux(), {}))
+    if (const auto f = std::exchange(travail, {}))
         f();
     std::fflush(nullptr);
     std::_Exit(statut);

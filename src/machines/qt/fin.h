@@ -7,7 +7,7 @@
 
 namespace plateforme::qt {
 
-/// Runs at the end of the process, however it comes: closing a recording. Must not fail.
+/// What runs at the end of the process, however it comes: closing a recording. Must not fail.
 void a_la_fin(std::function<void()> f);
 
 /// Runs what `a_la_fin` was given and ends the process, from inside any nesting; nothing is unwound.

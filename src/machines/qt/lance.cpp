@@ -3,6 +3,7 @@
 #include "base/fatale.h"
 #include "frame/programme.h"
 #include "machines/qt/boucle_qt.h"
+#include "machines/qt/clavier.h"
 #include "machines/qt/fin.h"
 #include "machines/qt/guichet.h"
 #include "machines/qt/images.h"
@@ -68,6 +69,7 @@ seance::seance(int argc, char** argv, composition c) : argc_(argc), c_(std::move
     application_ = ouvre_affichage(argc_, argv);
     prend_les_images();
     ecoute_la_touche_de_nuit(c_.apparence.nuit);
+    ecoute_le_clavier();
     QApplication::setApplicationName("Velmoria");
     QApplication::setWindowIcon(icone_programme(c_.icone));
 

@@ -34,7 +34,7 @@ std::vector<entree*> enfants(const shell::panneau& p, const controle* parent) {
 class menu final : public QMenu {
   public:
     menu(const shell::panneau& p, const controle* parent, const choix& choisit, QWidget* sous,
-         std::vector<QObject*>& pieces)
+         inventaire& pieces)
         : QMenu(sous), choisit_(choisit) {
         for (auto* e : enfants(p, parent))
             ajoute(*e, pieces);
@@ -65,7 +65,7 @@ class menu final : public QMenu {
     }
 
   private:
-    void ajoute(entree& e, std::vector<QObject*>& pieces) {
+    void ajoute(entree& e, inventaire& pieces) {
         QAction* action = nullptr;
         if (!enfants(e.fiche(), &e).empty()) {
             auto* sous_menu = new menu{e.fiche(), &e, choisit_, this, pieces};
@@ -78,7 +78,7 @@ class menu final : public QMenu {
             connect(action, &QAction::triggered, this, [this, &e] { choisit_(e); });
         }
         action->setObjectName(affiche(e.nom()));
-        pieces[static_cast<std::size_t>(e.rang())] = action;
+        pieces.range(e, action);
         accorde_tout(e, action);
     }
 
@@ -102,7 +102,7 @@ class menu final : public QMenu {
 
 } // namespace
 
-void remplit_barre(QMenuBar& barre, const shell::panneau& p, std::vector<QObject*>& pieces) {
+void remplit_barre(QMenuBar& barre, const shell::panneau& p, inventaire& pieces) {
     const choix clique = [](entree& e) { e.clic(); };
     for (auto* e : enfants(p, nullptr)) {
         if (e->a(shell::surgissant))
@@ -117,7 +117,7 @@ void remplit_barre(QMenuBar& barre, const shell::panneau& p, std::vector<QObject
             action = barre.addMenu(m);
         }
         action->setObjectName(affiche(e->nom()));
-        pieces[static_cast<std::size_t>(e->rang())] = action;
+        pieces.range(*e, action);
     }
 }
 
@@ -129,11 +129,11 @@ void ferme_surgissants() {
 
 entree* ouvre_surgissant(entree& racine, const entree* defaut) {
     entree* choisie = nullptr;
-    std::vector<QObject*> pieces(racine.fiche().controles().size());
+    inventaire pieces{racine.fiche()};
     menu m{racine.fiche(), &racine, [&choisie](entree& e) { choisie = &e; }, nullptr, pieces};
     m.setObjectName(affiche(racine.nom()));
     if (defaut)
-        m.setDefaultAction(static_cast<QAction*>(pieces[static_cast<std::size_t>(defaut->rang())]));
+        m.setDefaultAction(static_cast<QAction*>(pieces.piece(*defaut)));
     m.exec(QCursor::pos());
     return choisie;
 }

@@ -2,19 +2,16 @@
 // click or the Return key on it runs it, pointing at it only opens what hangs on it.
 #pragma once
 
-#include "store/controles.h"
+#include "machines/qt/inventaire.h"
 
 #include <QMenu>
-#include <QObject>
-#include <vector>
 
 class QMenuBar;
 
 namespace plateforme::qt {
 
-/// Fills the bar with the panel's entries, popups excepted. The actions made go to `pieces`, by the rank of
-/// their entry.
-void remplit_barre(QMenuBar& barre, const shell::panneau& p, std::vector<QObject*>& pieces);
+/// Fills the bar with the panel's entries, popups excepted. The actions made go to `pieces`.
+void remplit_barre(QMenuBar& barre, const shell::panneau& p, inventaire& pieces);
 
 /// Opens an entry's children at the pointer and returns the one chosen when it has closed, or none.
 shell::entree* ouvre_surgissant(shell::entree& racine, const shell::entree* defaut);

@@ -8,19 +8,12 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyleOptionButton>
-#include <QToolButton>
 #include <QToolTip>
-#include <QVBoxLayout>
+#include <utility>
 
 namespace plateforme::qt {
 
 // ---- button
-
-// A stop button acts at the press, the others at a release over the button: the store knows which.
-bouton::bouton(shell::champ_bouton& c, QWidget* parent) : QPushButton(parent) {
-    connect(this, &QPushButton::pressed, this, [&c] { c.appuie(); });
-    connect(this, &QPushButton::clicked, this, [&c] { c.relache(); });
-}
 
 void bouton::montre_enfonce(bool oui) {
     if (std::exchange(enfonce_, oui) != oui)
@@ -35,17 +28,20 @@ void bouton::initStyleOption(QStyleOptionButton* option) const {
     }
 }
 
-// Escape belongs to the panel, also while this button is held down.
-void bouton::keyPressEvent(QKeyEvent* e) {
-    if (e->key() == Qt::Key_Escape)
-        e->ignore();
-    else
-        QPushButton::keyPressEvent(e);
+// ---- text field
+
+void ligne_de_texte::focusOutEvent(QFocusEvent* e) {
+    QLineEdit::focusOutEvent(e);
+    if (e->reason() != Qt::ActiveWindowFocusReason && e->reason() != Qt::PopupFocusReason)
+        setCursorPosition(0); // whoever only looks at another program goes on typing where he was
 }
 
 // ---- label
 
 namespace {
+
+// As for the acts that come by signals: one that comes late does nothing.
+bool a_l_ecran(const shell::controle& c) { return c.fiche().est_visible(); }
 
 // A label breaks between words only; in a word too long for a line, such as a path, it may break anywhere.
 QString secable(const QString& texte) {
@@ -92,7 +88,7 @@ void etiquette::mousePressEvent(QMouseEvent* e) {
 }
 
 void etiquette::mouseReleaseEvent(QMouseEvent* e) {
-    if (e->button() == Qt::LeftButton && rect().contains(e->position().toPoint()))
+    if (e->button() == Qt::LeftButton && rect().contains(e->position().toPoint()) && a_l_ecran(champ_))
         champ_.relache();
 }
 
@@ -145,7 +141,8 @@ void liste::mousePressEvent(QMouseEvent* e) {
 
 void liste::mouseReleaseEvent(QMouseEvent* e) {
     QListWidget::mouseReleaseEvent(e);
-    if (e->button() == Qt::LeftButton && std::exchange(presse_, false) && currentRow() >= 0)
+    if (e->button() == Qt::LeftButton && std::exchange(presse_, false) && currentRow() >= 0 &&
+        a_l_ecran(champ_))
         champ_.choisit(currentRow());
 }
 
@@ -197,7 +194,7 @@ void tableau_image::mousePressEvent(QMouseEvent* e) {
 
 // The press took the mouse, so its release is told wherever it falls.
 void tableau_image::mouseReleaseEvent(QMouseEvent* e) {
-    if (e->button() == Qt::LeftButton)
+    if (e->button() == Qt::LeftButton && a_l_ecran(champ_))
         champ_.relache();
 }
 
@@ -215,26 +212,6 @@ bool montre_bulle::eventFilter(QObject*, QEvent* e) {
     if (!texte.empty())
         QToolTip::showText(static_cast<QHelpEvent*>(e)->globalPos(), affiche(texte));
     return true;
-}
-
-// ---- up-down
-
-hautbas::hautbas(shell::champ_hautbas& c, QWidget* parent) : QWidget(parent) {
-    auto* pile = new QVBoxLayout{this};
-    pile->setContentsMargins(0, 0, 0, 0);
-    pile->setSpacing(0);
-    const auto fleche = [&](Qt::ArrowType sens, const char* suffixe) {
-        auto* b = new QToolButton{this};
-        b->setArrowType(sens);
-        b->setAutoRepeat(true);
-        b->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
-        b->setObjectName(affiche(c.nom()) + suffixe);
-        b->setAccessibleName(b->objectName());
-        pile->addWidget(b);
-        return b;
-    };
-    connect(fleche(Qt::UpArrow, ".plus"), &QToolButton::clicked, this, [&c] { c.plus(); });
-    connect(fleche(Qt::DownArrow, ".moins"), &QToolButton::clicked, this, [&c] { c.moins(); });
 }
 
 } // namespace plateforme::qt

@@ -16,12 +16,11 @@ namespace plateforme::qt {
 /// A button that looks pressed as long as its control is, whatever the mouse and the focus do.
 class bouton final : public QPushButton {
   public:
-    bouton(shell::champ_bouton& c, QWidget* parent);
+    using QPushButton::QPushButton;
     void montre_enfonce(bool oui);
 
   protected:
     void initStyleOption(QStyleOptionButton* option) const override;
-    void keyPressEvent(QKeyEvent* e) override;
 
   private:
     bool enfonce_ = false;
@@ -43,12 +42,14 @@ class etiquette final : public QLabel {
     shell::champ_etiquette& champ_;
 };
 
-/// A line of text. By night its caret is drawn here: the toolkit's own is the opposite of what it stands on.
+/// A line of text. Without the focus it shows its beginning. By night its caret is drawn here: the toolkit's
+/// own is the opposite of what it stands on.
 class ligne_de_texte final : public QLineEdit {
   public:
     using QLineEdit::QLineEdit;
 
   protected:
+    void focusOutEvent(QFocusEvent* e) override;
     void paintEvent(QPaintEvent* e) override;
 };
 
@@ -103,12 +104,6 @@ class montre_bulle final : public QObject {
 
   private:
     const shell::controle& champ_;
-};
-
-/// Two arrow buttons, one above the other.
-class hautbas final : public QWidget {
-  public:
-    hautbas(shell::champ_hautbas& c, QWidget* parent);
 };
 
 } // namespace plateforme::qt

@@ -90,8 +90,6 @@ void surface::mousePressEvent(QMouseEvent* e) {
 void surface::keyPressEvent(QKeyEvent* e) {
     champ_.frappe({code_touche(*e), e->modifiers().testFlag(Qt::ShiftModifier),
                    e->modifiers().testFlag(Qt::ControlModifier)});
-    if (e->key() == Qt::Key_Escape)
-        e->ignore(); // the panel's stop answers to it too
 }
 
 } // namespace plateforme::qt

@@ -12,7 +12,7 @@ namespace plateforme::qt {
 
 fenetre* vue_qt::trouve(const shell::panneau& p) const {
     for (const auto& f : fenetres_)
-        if (f->fiche == &p)
+        if (&f->fiche == &p)
             return f.get();
     return nullptr;
 }
@@ -26,7 +26,7 @@ void vue_qt::panneau_change(const shell::panneau& p) {
         auto& fiche = const_cast<shell::panneau&>(p);
         f = fenetres_.emplace_back(cree_fenetre(fiche, zone_)).get();
         if (p.options().principal)
-            zone_ = f->zone;
+            zone_ = f->enfants;
     }
     accorde_fenetre(*f);
 }
@@ -46,7 +46,7 @@ void vue_qt::controle_change(const shell::controle& c, aspect a) {
     const auto* f = trouve(c.fiche());
     if (!f || f->cadre->isHidden())
         return;
-    if (auto* piece = f->pieces[static_cast<std::size_t>(c.rang())])
+    if (auto* piece = f->pieces.piece(c))
         accorde(c, piece, a);
 }
 

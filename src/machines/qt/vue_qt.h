@@ -22,7 +22,7 @@ class vue_qt final : public vue {
   private:
     fenetre* trouve(const shell::panneau& p) const;
     std::vector<std::unique_ptr<fenetre>> fenetres_;
-    QMdiArea* zone_ = nullptr;
+    zone* zone_ = nullptr;
 };
 
 } // namespace plateforme::qt

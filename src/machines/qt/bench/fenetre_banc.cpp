@@ -265,7 +265,7 @@ QWidget* fenetre_banc::fait_mesures() {
         planetarium_->setMinimumHeight(
             3 * fontMetrics().lineSpacing()); // no text of it changes the window's size
         planetarium_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-        grille->addWidget(planetarium_, 3, 0, 1, 3);
+        grille->addWidget(planetarium_, 4, 0, 1, 3);
     }
     return groupe;
 }
