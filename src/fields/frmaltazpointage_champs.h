@@ -44,11 +44,11 @@ inline constinit champ_texte txtcoordalt3{
 inline constinit champ_etiquette lblaltsec{
     fiche, "lblaltsec", {3045, 735, 195, 270}, {.legende = "''", .cadre = &Frame3}};
 inline constinit champ_etiquette lbldistaz{
-    fiche, "lbldistaz", {120, 1215, 1620, 270}, {.legende = "écart azimut ('')", .cadre = &Frame3}};
-inline constinit champ_texte txtdistaz{fiche, "txtdistaz", {1830, 1170, 1710, 345}, {.cadre = &Frame3}};
+    fiche, "lbldistaz", {120, 1140, 1260, 420}, {.legende = "écart azimut ('')", .cadre = &Frame3}};
+inline constinit champ_texte txtdistaz{fiche, "txtdistaz", {1410, 1170, 2130, 345}, {.cadre = &Frame3}};
 inline constinit champ_etiquette lbldistalt{
-    fiche, "lbldistalt", {120, 1635, 1620, 270}, {.legende = "écart altitude ('')", .cadre = &Frame3}};
-inline constinit champ_texte txtdistalt{fiche, "txtdistalt", {1830, 1590, 1710, 345}, {.cadre = &Frame3}};
+    fiche, "lbldistalt", {120, 1560, 1260, 420}, {.legende = "écart altitude ('')", .cadre = &Frame3}};
+inline constinit champ_texte txtdistalt{fiche, "txtdistalt", {1410, 1590, 2130, 345}, {.cadre = &Frame3}};
 
 inline constinit champ_bouton cmdpointage_graph{
     fiche, "cmdpointage_graph", {3780, 4290, 3660, 450}, {.legende = "Pointage"}};

@@ -12,43 +12,43 @@ inline constinit panneau fiche{"frmaltazsuivi", "Suivi sidéral", 6600, 5415};
 inline constinit champ_etiquette Lblad{fiche, "Lblad", {120, 165, 480, 270}, {.legende = "A.D"}};
 inline constinit champ_texte Txtad_h{fiche, "Txtad_h", {660, 120, 480, 345}, {.traits = centre}};
 inline constinit champ_etiquette lblad_h{fiche, "lblad_h", {1185, 165, 180, 270}, {.legende = "h"}};
-inline constinit champ_texte txtad_min{fiche, "txtad_min", {1380, 120, 1380, 345}};
-inline constinit champ_etiquette lblad_s{fiche, "lblad_s", {2805, 165, 420, 270}, {.legende = "min"}};
+inline constinit champ_texte txtad_min{fiche, "txtad_min", {1380, 120, 2130, 345}};
+inline constinit champ_etiquette lblad_s{fiche, "lblad_s", {3555, 165, 420, 270}, {.legende = "min"}};
 inline constinit champ_etiquette Lbldec{fiche, "Lbldec", {120, 585, 480, 270}, {.legende = "déc."}};
 inline constinit champ_texte txtsign{fiche, "txtsign", {660, 540, 300, 345}, {.traits = centre}};
 inline constinit champ_texte txtdec_deg{fiche, "txtdec_deg", {1005, 540, 480, 345}, {.traits = centre}};
-inline constinit champ_texte txtdec_min{fiche, "txtdec_min", {1530, 540, 1230, 345}};
-inline constinit champ_etiquette lbldec_min{fiche, "lbldec_min", {2805, 585, 420, 270}, {.legende = "min"}};
+inline constinit champ_texte txtdec_min{fiche, "txtdec_min", {1530, 540, 2130, 345}};
+inline constinit champ_etiquette lbldec_min{fiche, "lbldec_min", {3705, 585, 420, 270}, {.legende = "min"}};
 
 inline constinit champ_etiquette Label1{
-    fiche, "Label1", {3300, 165, 1440, 270}, {.legende = "Heure sidérale"}};
-inline constinit champ_texte txth2{fiche, "txth2", {4770, 120, 480, 345}, {.traits = centre}};
-inline constinit champ_texte txtmin2{fiche, "txtmin2", {5295, 120, 480, 345}, {.traits = centre}};
-inline constinit champ_texte txts2{fiche, "txts2", {5820, 120, 480, 345}, {.traits = centre}};
+    fiche, "Label1", {4770, 165, 1530, 270}, {.legende = "Heure sidérale"}};
+inline constinit champ_texte txth2{fiche, "txth2", {4770, 540, 480, 345}, {.traits = centre}};
+inline constinit champ_texte txtmin2{fiche, "txtmin2", {5295, 540, 480, 345}, {.traits = centre}};
+inline constinit champ_texte txts2{fiche, "txts2", {5820, 540, 480, 345}, {.traits = centre}};
 
-inline constinit champ_etiquette Label2{fiche, "Label2", {2400, 1035, 1800, 270}, {.legende = "Azimut"}};
-inline constinit champ_etiquette Label3{fiche, "Label3", {4500, 1035, 1800, 270}, {.legende = "Altitude"}};
-inline constinit champ_etiquette Label4{fiche, "Label4", {120, 1365, 2220, 270}, {.legende = "Position"}};
-inline constinit champ_texte txtah{fiche, "txtah", {2400, 1320, 540, 345}, {.traits = centre}};
-inline constinit champ_texte txtamin{fiche, "txtamin", {2985, 1320, 1215, 345}};
-inline constinit champ_texte txthh{fiche, "txthh", {4500, 1320, 540, 345}, {.traits = centre}};
-inline constinit champ_texte txthmin{fiche, "txthmin", {5085, 1320, 1215, 345}};
+inline constinit champ_etiquette Label2{fiche, "Label2", {1560, 1035, 2130, 270}, {.legende = "Azimut"}};
+inline constinit champ_etiquette Label3{fiche, "Label3", {4170, 1035, 2130, 270}, {.legende = "Altitude"}};
+inline constinit champ_etiquette Label4{fiche, "Label4", {120, 1365, 900, 270}, {.legende = "Position"}};
+inline constinit champ_texte txtah{fiche, "txtah", {1035, 1320, 480, 345}, {.traits = centre}};
+inline constinit champ_texte txtamin{fiche, "txtamin", {1560, 1320, 2100, 345}};
+inline constinit champ_texte txthh{fiche, "txthh", {3705, 1320, 420, 345}, {.traits = centre}};
+inline constinit champ_texte txthmin{fiche, "txthmin", {4170, 1320, 2130, 345}};
 inline constinit champ_etiquette Label5{
-    fiche, "Label5", {120, 1695, 2220, 450}, {.legende = "Nombre de pas à effectuer"}};
-inline constinit champ_texte txtna{fiche, "txtna", {2400, 1740, 1800, 345}};
-inline constinit champ_texte txtnh{fiche, "txtnh", {4500, 1740, 1800, 345}};
+    fiche, "Label5", {120, 1710, 1410, 420}, {.legende = "Nombre de pas à effectuer"}};
+inline constinit champ_texte txtna{fiche, "txtna", {1560, 1740, 2130, 345}};
+inline constinit champ_texte txtnh{fiche, "txtnh", {4170, 1740, 2130, 345}};
 inline constinit champ_etiquette Label6{
-    fiche, "Label6", {120, 2205, 2220, 270}, {.legende = "Somme des restes"}};
-inline constinit champ_texte txtsommea{fiche, "txtsommea", {2400, 2160, 1800, 345}};
-inline constinit champ_texte txtsommeh{fiche, "txtsommeh", {4500, 2160, 1800, 345}};
-inline constinit champ_etiquette Label7{fiche, "Label7", {120, 2625, 2220, 270}, {.legende = "Attente"}};
-inline constinit champ_texte txttempoa{fiche, "txttempoa", {2400, 2580, 1800, 345}};
-inline constinit champ_texte txttempoh{fiche, "txttempoh", {4500, 2580, 1800, 345}};
+    fiche, "Label6", {120, 2130, 1410, 420}, {.legende = "Somme des restes"}};
+inline constinit champ_texte txtsommea{fiche, "txtsommea", {1560, 2160, 2130, 345}};
+inline constinit champ_texte txtsommeh{fiche, "txtsommeh", {4170, 2160, 2130, 345}};
+inline constinit champ_etiquette Label7{fiche, "Label7", {120, 2625, 1410, 270}, {.legende = "Attente"}};
+inline constinit champ_texte txttempoa{fiche, "txttempoa", {1560, 2580, 2130, 345}};
+inline constinit champ_texte txttempoh{fiche, "txttempoh", {4170, 2580, 2130, 345}};
 
-inline constinit champ_etiquette Label8{fiche, "Label8", {120, 3045, 2220, 270}, {.legende = "Incrément"}};
-inline constinit champ_texte txtincrement{fiche, "txtincrement", {2400, 3000, 870, 345}};
-inline constinit champ_hautbas updowntaux{fiche, "updowntaux", {3270, 3000, 255, 345}};
-inline constinit champ_etiquette Label9{fiche, "Label9", {3600, 3045, 420, 270}, {.legende = "ms"}};
+inline constinit champ_etiquette Label8{fiche, "Label8", {120, 3045, 1410, 270}, {.legende = "Incrément"}};
+inline constinit champ_texte txtincrement{fiche, "txtincrement", {1560, 3000, 870, 345}};
+inline constinit champ_hautbas updowntaux{fiche, "updowntaux", {2430, 3000, 255, 345}};
+inline constinit champ_etiquette Label9{fiche, "Label9", {2760, 3045, 420, 270}, {.legende = "ms"}};
 
 inline constinit champ_cadre Frame1{
     fiche, "Frame1", {120, 3480, 6180, 720}, {.legende = "Inversion des sens de rotation"}};

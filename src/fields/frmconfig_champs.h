@@ -33,31 +33,31 @@ inline constinit champ_etiquette lblazimut{
 inline constinit champ_etiquette lblaltitude{
     fiche, "lblaltitude", {2970, 240, 720, 270}, {.legende = "Altitude", .cadre = &frmeca}};
 inline constinit champ_etiquette lblpas{
-    fiche, "lblpas", {90, 570, 2100, 270}, {.legende = "Nombre de pas moteur", .cadre = &frmeca}};
+    fiche, "lblpas", {90, 570, 2085, 270}, {.legende = "Nombre de pas moteur", .cadre = &frmeca}};
 inline constinit champ_texte txtpasaz{fiche, "txtpasaz", {2220, 525, 690, 345}, {.cadre = &frmeca}};
 inline constinit champ_texte txtpasalt{fiche, "txtpasalt", {2970, 525, 690, 345}, {.cadre = &frmeca}};
 inline constinit champ_etiquette lblrapport{
-    fiche, "lblrapport", {90, 960, 2100, 270}, {.legende = "Rapports de réduction", .cadre = &frmeca}};
-inline constinit champ_texte txtRaz{fiche, "txtRaz", {2220, 915, 690, 345}, {.cadre = &frmeca}};
-inline constinit champ_texte txtRalt{fiche, "txtRalt", {2970, 915, 690, 345}, {.cadre = &frmeca}};
+    fiche, "lblrapport", {90, 945, 2100, 270}, {.legende = "Rapports de réduction", .cadre = &frmeca}};
+inline constinit champ_texte txtRaz{fiche, "txtRaz", {2220, 900, 690, 345}, {.cadre = &frmeca}};
+inline constinit champ_texte txtRalt{fiche, "txtRalt", {2970, 900, 690, 345}, {.cadre = &frmeca}};
 inline constinit champ_etiquette lblapas{
-    fiche, "lblapas", {90, 1350, 2100, 270}, {.legende = "angle d'un pas a ('')", .cadre = &frmeca}};
-inline constinit champ_texte txtapas{fiche, "txtapas", {2220, 1305, 1440, 345}, {.cadre = &frmeca}};
+    fiche, "lblapas", {90, 1275, 1380, 420}, {.legende = "angle d'un pas a ('')", .cadre = &frmeca}};
+inline constinit champ_texte txtapas{fiche, "txtapas", {1500, 1305, 2160, 345}, {.cadre = &frmeca}};
 inline constinit champ_etiquette lblhpas{
-    fiche, "lblhpas", {90, 1740, 2100, 270}, {.legende = "angle d'un pas h ('')", .cadre = &frmeca}};
-inline constinit champ_texte txthpas{fiche, "txthpas", {2220, 1695, 1440, 345}, {.cadre = &frmeca}};
+    fiche, "lblhpas", {90, 1710, 1380, 420}, {.legende = "angle d'un pas h ('')", .cadre = &frmeca}};
+inline constinit champ_texte txthpas{fiche, "txthpas", {1500, 1740, 2160, 345}, {.cadre = &frmeca}};
 inline constinit champ_etiquette lblplus{
-    fiche, "lblplus", {90, 2130, 2100, 270}, {.legende = "sens +", .cadre = &frmeca}};
+    fiche, "lblplus", {90, 2190, 2100, 270}, {.legende = "sens +", .cadre = &frmeca}};
 inline constinit champ_texte txtazplus{
-    fiche, "txtazplus", {2220, 2085, 690, 345}, {.legende = "0", .cadre = &frmeca}};
+    fiche, "txtazplus", {2220, 2145, 690, 345}, {.legende = "0", .cadre = &frmeca}};
 inline constinit champ_texte txtaltplus{
-    fiche, "txtaltplus", {2970, 2085, 690, 345}, {.legende = "0", .cadre = &frmeca}};
+    fiche, "txtaltplus", {2970, 2145, 690, 345}, {.legende = "0", .cadre = &frmeca}};
 inline constinit champ_etiquette lblmoins{
-    fiche, "lblmoins", {90, 2520, 2100, 270}, {.legende = "sens -", .cadre = &frmeca}};
+    fiche, "lblmoins", {90, 2565, 2100, 270}, {.legende = "sens -", .cadre = &frmeca}};
 inline constinit champ_texte txtazmoins{
-    fiche, "txtazmoins", {2220, 2475, 690, 345}, {.legende = "8", .cadre = &frmeca}};
+    fiche, "txtazmoins", {2220, 2520, 690, 345}, {.legende = "8", .cadre = &frmeca}};
 inline constinit champ_texte txtaltmoins{
-    fiche, "txtaltmoins", {2970, 2475, 690, 345}, {.legende = "2", .cadre = &frmeca}};
+    fiche, "txtaltmoins", {2970, 2520, 690, 345}, {.legende = "2", .cadre = &frmeca}};
 
 inline constinit champ_cadre framecodeur{
     fiche, "framecodeur", {60, 4170, 3750, 1110}, {.legende = "Paramètres codeurs"}};

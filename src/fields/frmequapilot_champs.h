@@ -54,10 +54,10 @@ inline constinit champ_bouton cmdstopgo{
     fiche, "cmdstopgo", {900, 375, 720, 630}, {.legende = "Stop", .cadre = &Frame1, .traits = arret}};
 inline constinit champ_etiquette Label4{
     fiche, "Label4", {1740, 330, 1500, 270}, {.legende = "Suivi sidéral", .cadre = &Frame1}};
-inline constinit champ_texte txtpas{fiche, "txtpas", {1740, 630, 1740, 375}, {.cadre = &Frame1}};
-inline constinit champ_texte txtpas1{fiche, "txtpas1", {3540, 630, 600, 375}, {.cadre = &Frame1}};
-inline constinit champ_texte txtessai{fiche, "txtessai", {4200, 630, 720, 375}, {.cadre = &Frame1}};
-inline constinit champ_texte txts{fiche, "txts", {4980, 630, 540, 375}, {.cadre = &Frame1}};
+inline constinit champ_texte txtpas{fiche, "txtpas", {1740, 630, 2130, 375}, {.cadre = &Frame1}};
+inline constinit champ_texte txtpas1{fiche, "txtpas1", {3915, 630, 510, 375}, {.cadre = &Frame1}};
+inline constinit champ_texte txtessai{fiche, "txtessai", {4470, 630, 600, 375}, {.cadre = &Frame1}};
+inline constinit champ_texte txts{fiche, "txts", {5115, 630, 450, 375}, {.cadre = &Frame1}};
 inline constinit minuteur timersuivi{fiche, "timersuivi", {.intervalle = 100}};
 
 inline constinit champ_bouton Cmdquit{fiche, "Cmdquit", {90, 3840, 1500, 420}, {.legende = "Quitter"}};
