@@ -5,6 +5,7 @@
 
 #include <fstream>
 #include <gtest/gtest.h>
+#include <limits>
 #include <sstream>
 
 namespace {
@@ -39,6 +40,13 @@ TEST(Monture, CountsRisingEdgesByDirection) {
         EXPECT_TRUE(m.compte() == c.attendues)
             << m.compte().az0 << ' ' << m.compte().az8 << ' ' << m.compte().alt0 << ' ' << m.compte().alt2;
     }
+}
+
+TEST(unites, AStepWithoutASizeIsNoFailure) {
+    EXPECT_DOUBLE_EQ(banc::unite(360.0, 200.0), 9.0); // 648000 / 72000
+    EXPECT_EQ(banc::unite(0.0, 200.0), 0.0);
+    EXPECT_EQ(banc::unite(1e-200, 1e-200), 0.0);
+    EXPECT_EQ(banc::unite(std::numeric_limits<double>::infinity(), 0.0), 0.0);
 }
 
 // The rate shown, once settled, for a motion of `par_seconde` evenly spaced pulses looked at every `pas_ms`.
