@@ -8,40 +8,28 @@
 #include "machines/qt/lance.h"
 #include "machines/qt/peintre.h"
 #include "machines/qt/vue_qt.h"
+#include "mesure.h"
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <vector>
 
 namespace {
 
-using clock_mono = std::chrono::steady_clock;
-
-class port_muet final : public plateforme::port {
-  public:
-    void ecrit(int, std::uint8_t) override {}
-    std::uint8_t lit(int) override { return 0; }
-};
-
-class horloge_arretee final : public plateforme::horloge {
-  public:
-    plateforme::instant maintenant() override { return {2001, 8, 15, 22, 0, 0, 0}; }
-};
+using mesure::millisecondes;
+using mesure::montre;
 
 // Median of many, milliseconds.
 template <class F> double mediane(F&& f) {
     constexpr int repetitions = 201;
     std::vector<double> durees;
     for (int i = 0; i < repetitions; ++i) {
-        const auto debut = clock_mono::now();
+        const auto debut = montre::now();
         f();
-        durees.push_back(std::chrono::duration<double, std::milli>(clock_mono::now() - debut).count());
+        durees.push_back(millisecondes(montre::now() - debut));
     }
-    std::sort(durees.begin(), durees.end());
-    return durees[repetitions / 2];
+    return mesure::mediane(durees);
 }
 
 struct points {
@@ -60,7 +48,7 @@ points lit_tout(const std::string& objets) {
     return p;
 }
 
-void mesure(const char* quoi, double densite) {
+void decompose(const char* quoi, double densite) {
     const auto objets = chart::cataloguecercle + ".cat";
     const double tout = mediane(chart::redessine);
     const double lecture = mediane([&] { lit_tout(objets); });
@@ -84,28 +72,28 @@ void rafale(QWidget& carte) {
     constexpr int touches = 120;
     constexpr int cles[] = {Qt::Key_PageUp, Qt::Key_Left,     Qt::Key_End,
                             Qt::Key_Up,     Qt::Key_PageDown, Qt::Key_X};
-    const auto debut = clock_mono::now();
+    const auto debut = montre::now();
     for (int i = 0; i < touches; ++i) {
         QKeyEvent e{QEvent::KeyPress, cles[i % std::ssize(cles)], Qt::ShiftModifier};
         QApplication::sendEvent(&carte, &e);
     }
-    const std::chrono::duration<double, std::milli> duree = clock_mono::now() - debut;
-    std::printf("%d touches de suite, chacune dessinée : %.0f ms\n", touches, duree.count());
+    const double duree = millisecondes(montre::now() - debut);
+    std::printf("%d touches de suite, chacune dessinée : %.0f ms\n", touches, duree);
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    port_muet port;
-    horloge_arretee horloge;
+    mesure::port_muet port;
+    mesure::horloge_arretee horloge;
     plateforme::qt::seance s{
         argc, argv, {.port = port, .horloge = horloge, .attente = [](std::int64_t) {}, .donnees = DONNEES}};
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
     s.demarre();
     frmCercle::fiche.montre();
     frmCercle::mnuTous.clic();
-    const auto debut = clock_mono::now();
-    while (clock_mono::now() - debut < std::chrono::milliseconds{500})
+    const auto debut = montre::now();
+    while (montre::now() - debut < std::chrono::milliseconds{500})
         QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
     const double densite = s.vue().principale()->devicePixelRatioF();
     std::printf("plateforme %s, échelle %g, médianes de 201\n", qPrintable(QGuiApplication::platformName()),
@@ -120,9 +108,9 @@ int main(int argc, char** argv) {
         }
     chart::cataloguecercle = plus_grand.substr(0, plus_grand.find('.'));
     std::printf("%s, %zu objets\n", plus_grand.c_str(), nombre);
-    mesure("zoom 1, sans lettres", densite);
+    decompose("zoom 1, sans lettres", densite);
     frmCercle::mnuZCinq.clic();
-    mesure("zoom 5, avec lettres", densite);
+    decompose("zoom 5, avec lettres", densite);
     frmCercle::mnuRaz.clic();
     rafale(*s.vue().principale()->findChild<QWidget*>("ciel"));
     // The process ends here: its windows are not taken down.

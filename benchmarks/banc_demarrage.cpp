@@ -1,10 +1,9 @@
 // From process start to idle main frame, beside a bare Qt program, and the memory held then. Needs a display.
-#include <algorithm>
+#include "mesure.h"
+
 #include <array>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
 #include <string>
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -13,30 +12,22 @@
 
 namespace {
 
-using horloge = std::chrono::steady_clock;
+using mesure::mediane;
+using mesure::millisecondes;
+using mesure::montre;
 
-struct mesure {
+struct demarrage {
     double ms = 0;
     double pss = 0;     // megabytes
     double travail = 0; // processor time, ms
 };
 
-double pss(pid_t pid) {
-    std::ifstream f{"/proc/" + std::to_string(pid) + "/smaps_rollup"};
-    std::string mot;
-    double ko = 0;
-    while (f >> mot)
-        if (mot == "Pss:" && f >> ko)
-            break;
-    return ko / 1024;
-}
-
 // Starts it, waits for its byte, ends it.
-mesure demarre(const char* programme) {
+demarrage demarre(const char* programme) {
     std::array<int, 2> tube{};
     if (pipe(tube.data()) != 0)
         std::exit(1);
-    const auto debut = horloge::now();
+    const auto debut = montre::now();
     const pid_t pid = fork();
     if (pid == 0) {
         dup2(tube[1], STDOUT_FILENO);
@@ -48,8 +39,8 @@ mesure demarre(const char* programme) {
     close(tube[1]);
     char octet = 0;
     const bool pret = read(tube[0], &octet, 1) == 1;
-    const std::chrono::duration<double, std::milli> duree = horloge::now() - debut;
-    mesure m{duree.count(), pss(pid)};
+    const double duree = millisecondes(montre::now() - debut);
+    demarrage m{duree, mesure::pss(std::to_string(pid))};
     close(tube[0]);
     kill(pid, SIGKILL);
     rusage usage{};
@@ -65,16 +56,11 @@ mesure demarre(const char* programme) {
 
 // The counted delay of the start-up, which is there on purpose.
 double delai_compte() {
-    const auto debut = horloge::now();
+    const auto debut = montre::now();
     volatile int i = 0;
     while (i <= 5'000'000)
         i = i + 1;
-    return std::chrono::duration<double, std::milli>{horloge::now() - debut}.count();
-}
-
-double mediane(std::vector<double> v) {
-    std::sort(v.begin(), v.end());
-    return v[v.size() / 2];
+    return millisecondes(montre::now() - debut);
 }
 
 } // namespace

@@ -11,6 +11,7 @@
 #include "machines/qt/boucle_qt.h"
 #include "machines/qt/lance.h"
 #include "machines/qt/vue_qt.h"
+#include "mesure.h"
 #include "sky/almanach.h"
 #include "sky/conversion.h"
 #include "sky/heure.h"
@@ -18,41 +19,21 @@
 #include <QApplication>
 #include <QEventLoop>
 #include <QTimer>
-#include <algorithm>
-#include <chrono>
 #include <cstdio>
-#include <fstream>
 #include <sys/resource.h>
 #include <vector>
 
 namespace {
 
-using clock_mono = std::chrono::steady_clock;
-
-double microsecondes(clock_mono::duration d) { return std::chrono::duration<double, std::micro>{d}.count(); }
-
-double mediane(std::vector<double> v) {
-    std::sort(v.begin(), v.end());
-    return v[v.size() / 2];
-}
+using mesure::mediane;
+using mesure::microsecondes;
+using mesure::montre;
 
 void attends(double secondes) {
     QEventLoop boucle;
     QTimer::singleShot(static_cast<int>(secondes * 1000), &boucle, &QEventLoop::quit);
     boucle.exec();
 }
-
-// The store alone, without a window.
-class vue_muette final : public plateforme::vue {
-  public:
-    void panneau_change(const shell::panneau&) override {}
-    void eleve(const shell::panneau&) override {}
-    void repeint(const shell::panneau&) override {}
-    void controle_change(const shell::controle&, plateforme::aspect) override {}
-    shell::entree* ouvre_menu(shell::entree&, const shell::entree*) override { return nullptr; }
-    void message(const std::string&) override {}
-    plateforme::image charge_image(const std::filesystem::path&) override { return {}; }
-};
 
 class peintures final : public QObject {
   public:
@@ -67,7 +48,7 @@ class peintures final : public QObject {
 // Handler with and without the widgets' new texts, and then what paints them.
 void mesure_tic() {
     constexpr int tours = 300;
-    vue_muette muette;
+    mesure::vue_muette muette; // the store alone, without a window
     auto* vraie = plateforme::courante.vue;
     std::vector<double> magasin, widgets, peinture, inchange;
     peintures p;
@@ -75,9 +56,9 @@ void mesure_tic() {
     const auto tic = [](std::vector<double>& durees, double pas) {
         general::posaz += pas;
         general::posalt += pas;
-        const auto debut = clock_mono::now();
+        const auto debut = montre::now();
         frminterface::heuretimer.tic();
-        durees.push_back(microsecondes(clock_mono::now() - debut));
+        durees.push_back(microsecondes(montre::now() - debut));
     };
     for (int i = 0; i < tours; ++i) {
         plateforme::courante.vue = &muette;
@@ -85,10 +66,10 @@ void mesure_tic() {
         plateforme::courante.vue = vraie;
         tic(widgets, 3661.25);
         p.nombre = 0;
-        const auto debut = clock_mono::now();
-        while (p.nombre == 0 && microsecondes(clock_mono::now() - debut) < 1e6)
+        const auto debut = montre::now();
+        while (p.nombre == 0 && microsecondes(montre::now() - debut) < 1e6)
             QCoreApplication::processEvents(QEventLoop::AllEvents);
-        peinture.push_back(microsecondes(clock_mono::now() - debut));
+        peinture.push_back(microsecondes(montre::now() - debut));
         peints += p.nombre;
     }
     for (int i = 0; i < tours; ++i)
@@ -106,10 +87,10 @@ void mesure_conversion() {
     general::lit_almanach();
     std::vector<double> durees;
     for (int i = 0; i < 101; ++i) {
-        const auto debut = clock_mono::now();
+        const auto debut = montre::now();
         for (int k = 0; k < lot; ++k)
             general::calcul_altaz();
-        durees.push_back(microsecondes(clock_mono::now() - debut) / lot);
+        durees.push_back(microsecondes(montre::now() - debut) / lot);
     }
     std::printf("calcul_altaz : %.2f µs (au plus 20)\n", mediane(durees));
 }
@@ -125,14 +106,14 @@ void mesure_catalogue() {
     for (int i = 0; i < 51; ++i) {
         frmconfig::lbCatalogue.choisit(petit);
         attends(0.02);
-        auto debut = clock_mono::now();
+        auto debut = montre::now();
         frmconfig::lbCatalogue.choisit(grand);
-        durees.push_back(microsecondes(clock_mono::now() - debut));
+        durees.push_back(microsecondes(montre::now() - debut));
         p.nombre = 0;
-        debut = clock_mono::now();
-        while (p.nombre == 0 && microsecondes(clock_mono::now() - debut) < 1e6)
+        debut = montre::now();
+        while (p.nombre == 0 && microsecondes(montre::now() - debut) < 1e6)
             QCoreApplication::processEvents(QEventLoop::AllEvents);
-        peinture.push_back(microsecondes(clock_mono::now() - debut));
+        peinture.push_back(microsecondes(montre::now() - debut));
     }
     std::printf("catalogue de %d objets dans sa liste, fenêtre comprise : %.2f ms (au plus 5), peinture "
                 "%.2f ms\n",
@@ -148,16 +129,6 @@ double processeur() {
     return s;
 }
 
-double pss() {
-    std::ifstream f{"/proc/self/smaps_rollup"};
-    std::string mot;
-    double ko = 0;
-    while (f >> mot)
-        if (mot == "Pss:" && f >> ko)
-            break;
-    return ko / 1024;
-}
-
 void mesure_repos(const char* ou) {
     constexpr double duree = 10;
     attends(1);
@@ -166,7 +137,7 @@ void mesure_repos(const char* ou) {
     attends(duree);
     std::printf("au repos, %s : processeur %.2f %% sur %.0f s (au plus 2), PSS %.1f Mo (au plus 60), %d "
                 "événements de peinture\n",
-                ou, (processeur() - avant) / duree * 100, duree, pss(), p.nombre);
+                ou, (processeur() - avant) / duree * 100, duree, mesure::pss(), p.nombre);
 }
 
 } // namespace

@@ -10,30 +10,22 @@
 #include "machines/qt/bench/fenetre_banc.h"
 #include "machines/qt/boucle_qt.h"
 #include "machines/qt/lance.h"
+#include "mesure.h"
 #include "sky/heure.h"
 
 #include <QApplication>
 #include <QTimer>
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <vector>
 
 namespace {
 
-using clock_mono = std::chrono::steady_clock;
+using mesure::mediane;
+using mesure::montre;
 
 constexpr int repetitions = 7;
-
-double ecoule(clock_mono::time_point debut) {
-    return std::chrono::duration<double>(clock_mono::now() - debut).count();
-}
-
-double mediane(std::vector<double> v) {
-    std::sort(v.begin(), v.end());
-    return v[v.size() / 2];
-}
 
 struct course {
     double secondes = 0;
@@ -50,9 +42,9 @@ course raquette(plateforme::qt::boucle_qt& boucle, banc::port_simule& port, int 
     QTimer::singleShot(ms, [&port] { static_cast<void>(port.presente(banc::port_simule::sans_touche)); });
     const auto e = port.total_ecritures();
     const auto p = boucle.passes();
-    const auto debut = clock_mono::now();
+    const auto debut = montre::now();
     cmd_moteur::scruteraquette();
-    return {ecoule(debut), static_cast<double>(port.total_ecritures() - e) / 2,
+    return {mesure::secondes_depuis(debut), static_cast<double>(port.total_ecritures() - e) / 2,
             static_cast<double>(boucle.passes() - p)};
 }
 
@@ -62,9 +54,9 @@ course jog(plateforme::qt::boucle_qt& boucle, banc::port_simule& port, int compt
     QTimer::singleShot(ms, [] { frmaltazpilot::cmddstop.appuie(); });
     const auto e = port.total_ecritures();
     const auto p = boucle.passes();
-    const auto debut = clock_mono::now();
+    const auto debut = montre::now();
     frmaltazpilot::cmdad.clic();
-    return {ecoule(debut), static_cast<double>(port.total_ecritures() - e) / 2,
+    return {mesure::secondes_depuis(debut), static_cast<double>(port.total_ecritures() - e) / 2,
             static_cast<double>(boucle.passes() - p)};
 }
 
@@ -85,16 +77,16 @@ void vitesse(plateforme::qt::boucle_qt& boucle, banc::port_simule& port) {
     std::vector<double> paires;
     std::vector<double> vides;
     for (int i = 0; i < repetitions; ++i) {
-        auto debut = clock_mono::now();
+        auto debut = montre::now();
         for (int k = 0; k < tours; ++k) {
             plateforme::Out32(plateforme::registre_donnees, 8);
             plateforme::Out32(plateforme::registre_donnees, 12);
         }
-        paires.push_back(ecoule(debut) / tours);
-        debut = clock_mono::now();
+        paires.push_back(mesure::secondes_depuis(debut) / tours);
+        debut = montre::now();
         for (int k = 0; k < tours; ++k)
             QCoreApplication::processEvents(QEventLoop::AllEvents);
-        vides.push_back(ecoule(debut) / tours);
+        vides.push_back(mesure::secondes_depuis(debut) / tours);
     }
     const double paire = mediane(paires);
     const double passe = mediane(vides);
@@ -125,11 +117,11 @@ class premiere_impulsion final : public banc::temoin {
     void lignes(std::uint8_t donnees, std::uint8_t) override {
         if (!venue && (donnees & 5) != 0) {
             venue = true;
-            quand = clock_mono::now();
+            quand = montre::now();
         }
     }
     bool venue = false;
-    clock_mono::time_point quand;
+    montre::time_point quand;
 };
 
 // From a key of the paddle to the first pulse, the scan coming every 100 ms.
@@ -140,22 +132,22 @@ void latence(banc::port_simule& port) {
     cmd_moteur::slotazm = compte;
     std::vector<double> attentes;
     for (int i = 0; i < 15; ++i) {
-        const auto repos = clock_mono::now();
-        while (ecoule(repos) < 0.13 + 0.013 * i) // not in step with the scan
+        const auto repos = montre::now();
+        while (mesure::secondes_depuis(repos) < 0.13 + 0.013 * i) // not in step with the scan
             QCoreApplication::processEvents(QEventLoop::AllEvents);
         premiere_impulsion premiere;
         plateforme::Out32(plateforme::registre_donnees, 0);
         cmd_moteur::baselinepaddle = 0;
         port.observe(&premiere);
-        const auto debut = clock_mono::now();
+        const auto debut = montre::now();
         static_cast<void>(port.presente(9));
         QTimer::singleShot(150,
                            [&port] { static_cast<void>(port.presente(banc::port_simule::sans_touche)); });
-        while (ecoule(debut) < 0.2)
+        while (mesure::secondes_depuis(debut) < 0.2)
             QCoreApplication::processEvents(QEventLoop::AllEvents);
         port.observe(nullptr);
         if (premiere.venue)
-            attentes.push_back(std::chrono::duration<double, std::milli>(premiere.quand - debut).count());
+            attentes.push_back(mesure::millisecondes(premiere.quand - debut));
     }
     if (attentes.empty())
         std::printf("raquette : aucune impulsion\n");
@@ -198,8 +190,8 @@ int main(int argc, char** argv) {
     frminterface::baraltaz_boutons(3).clic();
     frminterface::Timer.marche(true);
     frminterface::heuretimer.marche(true);
-    const auto debut = clock_mono::now();
-    while (ecoule(debut) < 0.5) // everything painted
+    const auto debut = montre::now();
+    while (mesure::secondes_depuis(debut) < 0.5) // everything painted
         QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
 
     std::printf("plateforme %s\n", qPrintable(QGuiApplication::platformName()));

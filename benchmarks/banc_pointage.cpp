@@ -4,23 +4,14 @@
 #include "drive/cmd_moteur.h"
 #include "fields/frmequapointage_champs.h"
 #include "frame/programme.h"
+#include "mesure.h"
 #include "seam/plateforme.h"
 #include "slewing/etat_pointage.h"
 #include "slewing/pointeequa.h"
-#include "store/vue.h"
 
 #include <benchmark/benchmark.h>
 
 namespace {
-
-struct port_libre final : plateforme::port {
-    void ecrit(int, std::uint8_t valeur) override { benchmark::DoNotOptimize(valeur); }
-    std::uint8_t lit(int) override { return 255; }
-};
-
-struct horloge_fixe final : plateforme::horloge {
-    plateforme::instant maintenant() override { return {}; }
-};
 
 // Ends a jog after so many yields.
 struct boucle_libre final : plateforme::boucle {
@@ -35,20 +26,10 @@ struct boucle_libre final : plateforme::boucle {
     [[noreturn]] void termine(int statut) override { std::exit(statut); }
 };
 
-struct vue_libre final : plateforme::vue {
-    void panneau_change(const shell::panneau&) override {}
-    void eleve(const shell::panneau&) override {}
-    void repeint(const shell::panneau&) override {}
-    void controle_change(const shell::controle&, plateforme::aspect) override {}
-    shell::entree* ouvre_menu(shell::entree&, const shell::entree*) override { return nullptr; }
-    void message(const std::string&) override {}
-    plateforme::image charge_image(const std::filesystem::path&) override { return {}; }
-};
-
-port_libre port;
-horloge_fixe horloge;
+mesure::port_muet port;
+mesure::horloge_arretee horloge;
 boucle_libre boucle;
-vue_libre vue;
+mesure::vue_muette vue;
 
 void prepare() {
     plateforme::courante = {&port, &horloge, &boucle, &vue, DONNEES};

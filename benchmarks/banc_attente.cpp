@@ -2,6 +2,7 @@
 // clock: what that loop suffers is the machine's own noise. The two take turns within each run, so that a
 // ratio compares the same seconds.
 #include "machines/linux/attente_precise.h"
+#include "mesure.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -9,6 +10,8 @@
 #include <vector>
 
 namespace {
+
+using mesure::mediane;
 
 constexpr int nombre_passages = 7;
 
@@ -23,7 +26,7 @@ struct epreuve {
 constexpr epreuve epreuves[] = {
     {10'000'000, 200, 2, 5}, {1'000'000, 1000, 2, 15}, {100'000, 2000, 2, 100}, {10'000, 5000, 2, 100}};
 
-struct mesure {
+struct passage {
     double mediane = 0, centile99 = 0, pire = 0; // us
     double charge = 0;                           // %
     bool trop_court = false;
@@ -35,7 +38,7 @@ std::int64_t temps_processeur() {
     return std::int64_t{t.tv_sec} * 1'000'000'000 + t.tv_nsec;
 }
 
-template <class Attend> mesure chronometre(const epreuve& e, Attend&& attend) {
+template <class Attend> passage chronometre(const epreuve& e, Attend&& attend) {
     std::vector<double> retards;
     retards.reserve(static_cast<std::size_t>(e.attentes));
     const auto debut = plateforme::horloge_monotone();
@@ -58,12 +61,7 @@ void guette_l_horloge(std::int64_t ns) {
     }
 }
 
-double mediane(std::vector<double> v) {
-    std::sort(v.begin(), v.end());
-    return v[v.size() / 2];
-}
-
-template <class Champ> double mediane_des(const std::vector<mesure>& m, Champ champ) {
+template <class Champ> double mediane_des(const std::vector<passage>& m, Champ champ) {
     std::vector<double> v;
     for (const auto& x : m)
         v.push_back(x.*champ);
@@ -82,7 +80,7 @@ int main() {
     bool court = false;
     bool tenu = true;
     for (const auto& e : epreuves) {
-        std::vector<mesure> nous, boucle;
+        std::vector<passage> nous, boucle;
         std::vector<double> rapports;
         for (int p = 0; p < nombre_passages; ++p) {
             nous.push_back(chronometre(e, [&](std::int64_t ns) { attente.attend(ns); }));
@@ -90,13 +88,13 @@ int main() {
             rapports.push_back(nous.back().centile99 / boucle.back().centile99);
             court = court || nous.back().trop_court;
         }
-        const double retard = mediane_des(nous, &mesure::mediane);
-        const double charge = mediane_des(nous, &mesure::charge);
+        const double retard = mediane_des(nous, &passage::mediane);
+        const double charge = mediane_des(nous, &passage::charge);
         std::printf("%6lld µs  %7.2f (%6.2f)  %7.2f (%7.2f)      %7.2f  %8.1f (%8.1f)  %5.1f %% (%5.1f %%)\n",
-                    static_cast<long long>(e.nominal / 1000), retard, mediane_des(boucle, &mesure::mediane),
-                    mediane_des(nous, &mesure::centile99), mediane_des(boucle, &mesure::centile99),
-                    mediane(rapports), mediane_des(nous, &mesure::pire), mediane_des(boucle, &mesure::pire),
-                    charge, mediane_des(boucle, &mesure::charge));
+                    static_cast<long long>(e.nominal / 1000), retard, mediane_des(boucle, &passage::mediane),
+                    mediane_des(nous, &passage::centile99), mediane_des(boucle, &passage::centile99),
+                    mediane(rapports), mediane_des(nous, &passage::pire), mediane_des(boucle, &passage::pire),
+                    charge, mediane_des(boucle, &passage::charge));
         tenu = tenu && retard <= e.mediane_max && charge <= e.charge_max;
     }
     std::printf(

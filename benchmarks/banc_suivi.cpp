@@ -7,31 +7,19 @@
 #include "fields/frmconfig_champs.h"
 #include "frame/programme.h"
 #include "machines/virtual/boucle_virtuelle.h"
+#include "mesure.h"
 #include "tracking/etat_suivi.h"
 
-#include <algorithm>
 #include <benchmark/benchmark.h>
-#include <chrono>
 #include <vector>
 
 namespace {
-
-struct vue_nulle final : plateforme::vue {
-    void panneau_change(const shell::panneau&) override {}
-    void eleve(const shell::panneau&) override {}
-    void repeint(const shell::panneau&) override {}
-    void controle_change(const shell::controle&, plateforme::aspect) override { ++changements; }
-    shell::entree* ouvre_menu(shell::entree&, const shell::entree*) override { return nullptr; }
-    void message(const std::string&) override {}
-    plateforme::image charge_image(const std::filesystem::path&) override { return {}; }
-    std::int64_t changements = 0;
-};
 
 struct banc_suivi {
     banc::monture monture;
     banc::port_simule port{monture};
     plateforme::boucle_virtuelle boucle;
-    vue_nulle vue;
+    mesure::vue_muette vue;
 
     // `heure` of the computer: at 0 h each tick reads the almanac.
     banc_suivi(int increment, int heure) {
@@ -61,14 +49,11 @@ void tic(benchmark::State& etat) {
     for (auto _ : etat) {
         if (sauts)
             frmconfig::Txtad_h.ecrit((autre = !autre) ? "20" : "21");
-        const auto debut = std::chrono::steady_clock::now();
+        const auto debut = mesure::montre::now();
         b.boucle.avance(increment * std::int64_t{1'000'000});
-        durees.push_back(
-            std::chrono::duration<double, std::micro>(std::chrono::steady_clock::now() - debut).count());
+        durees.push_back(mesure::microsecondes(mesure::montre::now() - debut));
     }
-    std::nth_element(durees.begin(), durees.begin() + static_cast<std::ptrdiff_t>(durees.size() / 2),
-                     durees.end());
-    etat.counters["mediane_us"] = durees[durees.size() / 2];
+    etat.counters["mediane_us"] = mesure::mediane(durees);
     etat.counters["champs"] =
         static_cast<double>(b.vue.changements - avant) / static_cast<double>(etat.iterations());
 }
