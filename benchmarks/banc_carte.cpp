@@ -59,9 +59,9 @@ void decompose(const char* quoi, double densite) {
             somme = somme + chart::projette(ad, dec).x;
     });
     plateforme::qt::peintre peintre;
-    const int cote = static_cast<int>(frmCercle::ciel.regarde_place().l / 15.0 * densite);
+    const int cote = static_cast<int>(frmCercle::ciel.regarde().place.l / 15.0 * densite);
     QImage image{cote, cote, QImage::Format_RGB32};
-    const double peinture = mediane([&] { peintre.peint(image, frmCercle::ciel.regarde_toile(), densite); });
+    const double peinture = mediane([&] { peintre.peint(image, frmCercle::ciel.regarde().toile, densite); });
     std::printf("%-28s %6.2f ms : lecture %.2f, projection %.2f (%zu points), peinture %.2f, copie à l'écran "
                 "et reste %.2f\n",
                 quoi, tout, lecture, projection, p.tous.size(), peinture,

@@ -49,7 +49,7 @@ class peintures final : public QObject {
 void mesure_tic() {
     constexpr int tours = 300;
     mesure::vue_muette muette; // the store alone, without a window
-    auto* vraie = plateforme::courante.vue;
+    auto* vraie = shell::vue_courante;
     std::vector<double> magasin, widgets, peinture, inchange;
     peintures p;
     int peints = 0;
@@ -61,9 +61,9 @@ void mesure_tic() {
         durees.push_back(microsecondes(montre::now() - debut));
     };
     for (int i = 0; i < tours; ++i) {
-        plateforme::courante.vue = &muette;
+        shell::vue_courante = &muette;
         tic(magasin, 3661.25);
-        plateforme::courante.vue = vraie;
+        shell::vue_courante = vraie;
         tic(widgets, 3661.25);
         p.nombre = 0;
         const auto debut = montre::now();
@@ -100,7 +100,7 @@ void mesure_catalogue() {
     constexpr int petit = 1;
     constexpr int grand = 2;
     frmconfig::lbCatalogue.choisit(grand);
-    const int lignes = static_cast<int>(frmconfig::lbObjets.regarde_lignes().size());
+    const int lignes = static_cast<int>(frmconfig::lbObjets.regarde().lignes.size());
     std::vector<double> durees, peinture;
     peintures p;
     for (int i = 0; i < 51; ++i) {

@@ -21,8 +21,8 @@ struct boucle_libre final : plateforme::boucle {
         if (reste > 0 && --reste == 0)
             cmd_moteur::cmdsens = 0;
     }
-    void arme(shell::minuteur&, int) override {}
-    void desarme(shell::minuteur&) override {}
+    void arme(plateforme::rappel&, int) override {}
+    void desarme(plateforme::rappel&) override {}
     [[noreturn]] void termine(int statut) override { std::exit(statut); }
 };
 
@@ -32,7 +32,8 @@ boucle_libre boucle;
 mesure::vue_muette vue;
 
 void prepare() {
-    plateforme::courante = {&port, &horloge, &boucle, &vue, DONNEES};
+    plateforme::courante = {&port, &horloge, &boucle, DONNEES};
+    shell::vue_courante = &vue;
     programme::construit();
     frmequapointage::fiche.charge();
     frmequapointage::choix.lbCatalogue.visible(true);
@@ -43,7 +44,7 @@ void filtre(benchmark::State& etat, shell::entree& entree) {
     prepare();
     for (auto _ : etat)
         entree.clic();
-    etat.counters["lignes"] = static_cast<double>(frmequapointage::choix.lbObjets.regarde_lignes().size());
+    etat.counters["lignes"] = static_cast<double>(frmequapointage::choix.lbObjets.regarde().lignes.size());
 }
 
 constexpr std::int64_t impulsions = 100'000;

@@ -29,8 +29,8 @@ class boucle_comptee final : public plateforme::boucle {
             presse(banc::port_simule::sans_touche);
         }
     }
-    void arme(shell::minuteur&, int) override {}
-    void desarme(shell::minuteur&) override {}
+    void arme(plateforme::rappel&, int) override {}
+    void desarme(plateforme::rappel&) override {}
     [[noreturn]] void termine(int statut) override { std::exit(statut); }
 
   private:
@@ -49,7 +49,7 @@ void boucle(benchmark::State& etat, bool raquette) {
     banc::monture monture;
     banc::port_simule port{monture};
     boucle_comptee b{port};
-    plateforme::courante = {&port, nullptr, &b, nullptr, VELMORIA_DONNEES};
+    plateforme::courante = {&port, nullptr, &b, VELMORIA_DONNEES};
     plateforme::Out32(plateforme::registre_controle, banc::port_simule::sans_touche);
     classevitaz = 0;
     vitessealtaz[0] = static_cast<int>(etat.range(0));

@@ -52,10 +52,10 @@ void decharge(const std::vector<pid_t>& enfants) {
 // Runs the event loop and counts the ticks seen: each moves the milliseconds of the panel clock.
 int compte_tics(int secondes) {
     int tics = 0;
-    std::string avant = frmcoord::txtms.regarde_texte();
+    std::string avant = frmcoord::txtms.regarde().texte;
     QTimer guet;
     QObject::connect(&guet, &QTimer::timeout, [&] {
-        const auto& ms = frmcoord::txtms.regarde_texte();
+        const auto& ms = frmcoord::txtms.regarde().texte;
         if (ms != avant) {
             ++tics;
             avant = ms;

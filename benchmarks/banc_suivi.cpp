@@ -23,7 +23,8 @@ struct banc_suivi {
 
     // `heure` of the computer: at 0 h each tick reads the almanac.
     banc_suivi(int increment, int heure) {
-        plateforme::courante = {&port, &boucle, &boucle, &vue, VELMORIA_DONNEES};
+        plateforme::courante = {&port, &boucle, &boucle, VELMORIA_DONNEES};
+        shell::vue_courante = &vue;
         boucle.regle_horloge({.annee = 2001, .mois = 8, .jour = 15, .heure = heure});
         programme::construit();
         frmaltazsuivi::fiche.charge();

@@ -37,11 +37,11 @@ inline double pss(const std::string& processus = "self") {
 }
 
 /// A view that shows nothing; it counts what it was told of controls.
-struct vue_muette final : plateforme::vue {
-    void panneau_change(const shell::panneau&) override {}
-    void eleve(const shell::panneau&) override {}
-    void repeint(const shell::panneau&) override {}
-    void controle_change(const shell::controle&, plateforme::aspect) override { ++changements; }
+struct vue_muette final : shell::vue {
+    void panneau_change(shell::panneau&) override {}
+    void eleve(shell::panneau&) override {}
+    void repeint(shell::panneau&) override {}
+    void controle_change(shell::controle&, shell::aspect) override { ++changements; }
     shell::entree* ouvre_menu(shell::entree&, const shell::entree*) override { return nullptr; }
     void message(const std::string&) override {}
     plateforme::image charge_image(const std::filesystem::path&) override { return {}; }

@@ -8,6 +8,7 @@
 #include "bench/port_simule.h"
 #include "frame/programme.h"
 #include "machines/virtual/boucle_virtuelle.h"
+#include "store/vue.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -53,12 +54,12 @@ class dossier_prive {
     std::filesystem::path chemin;
 };
 
-class vue_muette final : public plateforme::vue {
+class vue_muette final : public shell::vue {
   public:
-    void panneau_change(const shell::panneau&) override {}
-    void eleve(const shell::panneau&) override {}
-    void repeint(const shell::panneau&) override {}
-    void controle_change(const shell::controle&, plateforme::aspect) override {}
+    void panneau_change(shell::panneau&) override {}
+    void eleve(shell::panneau&) override {}
+    void repeint(shell::panneau&) override {}
+    void controle_change(shell::controle&, shell::aspect) override {}
     shell::entree* ouvre_menu(shell::entree&, const shell::entree*) override { return nullptr; }
     void message(const std::string&) override {}
     plateforme::image charge_image(const std::filesystem::path&) override { return {1, 10, 10, 96}; }
@@ -70,7 +71,8 @@ class machine : private dossier_prive {
     machine() {
         std::filesystem::copy(VELMORIA_DONNEES, chemin, std::filesystem::copy_options::recursive);
         boucle.regle_horloge({.annee = 2001, .mois = 8, .jour = 15, .heure = 22});
-        plateforme::courante = {&port, &boucle, &boucle, &vue, chemin};
+        plateforme::courante = {&port, &boucle, &boucle, chemin};
+        shell::vue_courante = &vue;
         programme::construit();
     }
 

@@ -34,11 +34,11 @@ template <std::size_t N> std::array<double, N> premieres(const char* nom) {
 } // namespace
 
 unites unites_du_mode() {
-    if (frminterface::barequa.regarde_visible()) {
+    if (frminterface::barequa.regarde().visible) {
         const auto [pas_ad, pas_dec, r_ad, r_dec] = premieres<4>("config_equa.ini");
         return {unite(r_ad, pas_ad), unite(r_dec, pas_dec)};
     }
-    if (frminterface::baraltaz.regarde_visible()) {
+    if (frminterface::baraltaz.regarde().visible) {
         const auto [degre, min, latdeg, latmin, pas_az, pas_alt, r_alt, r_az] =
             premieres<8>("config_altaz.ini");
         return {unite(base::arrondi(r_az), pas_az), unite(base::arrondi(r_alt), pas_alt)};

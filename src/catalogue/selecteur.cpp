@@ -121,8 +121,8 @@ void nomme_etoile_proche(const selecteur& s) {
             meilleure = d;
             proche = j;
         }
-    plateforme::courante.vue->message("L'ETOILE LA PLUS PROCHE EST:\r\n" + e.noms[proche] + "(" +
-                                      constellation(e.codes[proche]) + ").");
+    shell::vue_courante->message("L'ETOILE LA PLUS PROCHE EST:\r\n" + e.noms[proche] + "(" +
+                                 constellation(e.codes[proche]) + ").");
 }
 
 } // namespace

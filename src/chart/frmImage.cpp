@@ -30,7 +30,7 @@ void montre(const std::string& nom) {
     constexpr int marge_largeur = 200;
     constexpr int ecart_bouton = 100;
     const auto chemin = catalogue::photographie(nom);
-    const auto photo = plateforme::courante.vue->charge_image(chemin);
+    const auto photo = shell::vue_courante->charge_image(chemin);
     const int large = mesure(photo.largeur, photo.ppp, centiemes_par_pouce);
     if (large > entier16::maximum)
         base::fatale(base::cause::depassement, chemin.string() + ", largeur");
@@ -42,7 +42,7 @@ void montre(const std::string& nom) {
     fiche.legende(nom);
     fiche.hauteur(oPicture.hauteur() + marge_hauteur);
     fiche.largeur(oPicture.largeur() + marge_largeur);
-    bFin.deplace(fiche.largeur() + ecart_bouton, bFin.regarde_place().y); // past the edge
+    bFin.deplace(fiche.largeur() + ecart_bouton, bFin.regarde().place.y); // past the edge
     fiche.montre();
 }
 

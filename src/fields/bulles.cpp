@@ -236,7 +236,7 @@ std::string vitesse(double nombre_montre) {
 
 std::string bulle(const shell::controle& c) {
     if (est_une_vitesse(c))
-        return vitesse(c.espece() == shell::genre::barre ? c.regarde_valeur() : nombre_de(c.regarde_texte()));
+        return vitesse(c.espece() == shell::genre::barre ? c.regarde().valeur : nombre_de(c.regarde().texte));
     const auto panneau = std::string{c.fiche().nom()} + ".";
     for (const auto& nom : {c.nom(), std::string{c.nom_court()}}) {
         if (const auto t = cherche(lignes, panneau + nom); !t.empty())

@@ -19,45 +19,45 @@ inline constinit champ_barre_outils bargeneral{fiche, "bargeneral", {.visible = 
 inline constinit tableau<champ_outil, 7> bargeneral_boutons{
     fiche,
     "bargeneral",
-    {{.legende = "pilotage informatique", .cadre = &bargeneral, .valeur = 9},
-     {.legende = "pilotage manuel", .cadre = &bargeneral, .valeur = 1},
-     {.legende = "mode équatorial", .cadre = &bargeneral, .valeur = 19},
-     {.legende = "mode altazimutal", .cadre = &bargeneral, .valeur = 18},
-     {.legende = "observations", .cadre = &bargeneral, .valeur = 10},
-     {.legende = "aide", .cadre = &bargeneral, .valeur = 12},
-     {.legende = "à propos de ...", .cadre = &bargeneral, .valeur = 11}},
+    {{.legende = "pilotage informatique", .cadre = &bargeneral, .icone = 9},
+     {.legende = "pilotage manuel", .cadre = &bargeneral, .icone = 1},
+     {.legende = "mode équatorial", .cadre = &bargeneral, .icone = 19},
+     {.legende = "mode altazimutal", .cadre = &bargeneral, .icone = 18},
+     {.legende = "observations", .cadre = &bargeneral, .icone = 10},
+     {.legende = "aide", .cadre = &bargeneral, .icone = 12},
+     {.legende = "à propos de ...", .cadre = &bargeneral, .icone = 11}},
     1};
 
 inline constinit champ_barre_outils barequa{fiche, "barequa", {.visible = false}};
 inline constinit tableau<champ_outil, 5> barequa_boutons{
     fiche,
     "barequa",
-    {{.legende = "Mode informatique", .cadre = &barequa, .valeur = 9},
-     {.legende = "Mode manuel", .cadre = &barequa, .valeur = 1},
-     {.legende = "Pilotage", .cadre = &barequa, .valeur = 14},
-     {.legende = "Pointage automatique", .cadre = &barequa, .valeur = 15},
-     {.legende = "Paramètres", .cadre = &barequa, .valeur = 7}},
+    {{.legende = "Mode informatique", .cadre = &barequa, .icone = 9},
+     {.legende = "Mode manuel", .cadre = &barequa, .icone = 1},
+     {.legende = "Pilotage", .cadre = &barequa, .icone = 14},
+     {.legende = "Pointage automatique", .cadre = &barequa, .icone = 15},
+     {.legende = "Paramètres", .cadre = &barequa, .icone = 7}},
     1};
 
 inline constinit champ_barre_outils baraltaz{fiche, "baraltaz", {.visible = false}};
 inline constinit tableau<champ_outil, 7> baraltaz_boutons{
     fiche,
     "baraltaz",
-    {{.legende = "Mode informatique", .cadre = &baraltaz, .valeur = 9},
-     {.legende = "Mode manuel", .cadre = &baraltaz, .valeur = 1},
-     {.legende = "Pilotage", .cadre = &baraltaz, .valeur = 14},
-     {.legende = "Pointage automatique", .cadre = &baraltaz, .valeur = 15},
-     {.legende = "Suivi sidéral", .cadre = &baraltaz, .valeur = 16},
-     {.legende = "Initialisations", .cadre = &baraltaz, .valeur = 7},
-     {.legende = "Coordonnées", .cadre = &baraltaz, .valeur = 2}},
+    {{.legende = "Mode informatique", .cadre = &baraltaz, .icone = 9},
+     {.legende = "Mode manuel", .cadre = &baraltaz, .icone = 1},
+     {.legende = "Pilotage", .cadre = &baraltaz, .icone = 14},
+     {.legende = "Pointage automatique", .cadre = &baraltaz, .icone = 15},
+     {.legende = "Suivi sidéral", .cadre = &baraltaz, .icone = 16},
+     {.legende = "Initialisations", .cadre = &baraltaz, .icone = 7},
+     {.legende = "Coordonnées", .cadre = &baraltaz, .icone = 2}},
     1};
 
 inline constinit champ_barre_outils barchoix{fiche, "barchoix", {}};
 inline constinit tableau<champ_outil, 2> barchoix_boutons{
     fiche,
     "barchoix",
-    {{.legende = "Mode équatorial", .cadre = &barchoix, .valeur = 19},
-     {.legende = "Mode altazimutal", .cadre = &barchoix, .valeur = 18}},
+    {{.legende = "Mode équatorial", .cadre = &barchoix, .icone = 19},
+     {.legende = "Mode altazimutal", .cadre = &barchoix, .icone = 18}},
     1};
 
 inline constinit champ_barre_etat StatusBar{fiche, "StatusBar", {}};

@@ -25,6 +25,7 @@
 #include "seam/image.h"
 #include "seam/plateforme.h"
 #include "slewing/etat_pointage.h"
+#include "store/vue.h"
 #include "tracking/etat_suivi.h"
 
 namespace frminterface {
@@ -52,14 +53,14 @@ void charge_images() {
     for (int i = 0; !f.fini(); ++i) {
         const auto nom = f.texte();
         const auto image =
-            plateforme::courante.vue->charge_image(plateforme::fichier_donnees("img/" + nom + ".gif"));
+            shell::vue_courante->charge_image(plateforme::fichier_donnees("img/" + nom + ".gif"));
         base::element(plateforme::imagesboutons, i, "img/liste.txt, imagesboutons") = image;
     }
 }
 
 void charge() {
     frmintro::fiche.montre();
-    plateforme::courante.vue->repeint(frmintro::fiche);
+    shell::vue_courante->repeint(frmintro::fiche);
     frmintro::Label.legende(" chargement des bibliothèques d'objets");
     vitesses::litvitesses();
     compte_a_vide();
@@ -225,7 +226,7 @@ void branche_barres() {
     bargeneral_boutons(3).au_clic(mode_equatorial);
     bargeneral_boutons(4).au_clic(general_altazimutal);
     bargeneral_boutons(5).au_clic([] { Frmnotes::fiche.montre(); });
-    bargeneral_boutons(6).au_clic([] { plateforme::courante.vue->message("not available yet"); });
+    bargeneral_boutons(6).au_clic([] { shell::vue_courante->message("not available yet"); });
     bargeneral_boutons(7).au_clic([] { frmcopyright::fiche.montre(); });
 }
 

@@ -78,13 +78,13 @@ bool panneau_d_horloge() { return mode() == monture::altazimutale && frmcoord::f
 
 // Local sidereal time by the almanac's value on the clock panel; none as long as nothing has read it.
 std::optional<double> sideral_du_panneau() {
-    if (!panneau_d_horloge() || frmcoord::txtessai.regarde_texte().empty())
+    if (!panneau_d_horloge() || frmcoord::txtessai.regarde().texte.empty())
         return std::nullopt;
-    const auto t0 = chiffre(frmcoord::txtessai.regarde_texte(), 0, secondes_par_jour);
-    const auto h = chiffre(frmcoord::txth.regarde_texte(), -48, 48);
-    const auto m = chiffre(frmcoord::txtmin.regarde_texte(), 0, 60);
-    const auto s = chiffre(frmcoord::txts.regarde_texte(), 0, 60);
-    const auto ms = chiffre(frmcoord::txtms.regarde_texte(), -32768, 32767);
+    const auto t0 = chiffre(frmcoord::txtessai.regarde().texte, 0, secondes_par_jour);
+    const auto h = chiffre(frmcoord::txth.regarde().texte, -48, 48);
+    const auto m = chiffre(frmcoord::txtmin.regarde().texte, 0, 60);
+    const auto s = chiffre(frmcoord::txts.regarde().texte, 0, 60);
+    const auto ms = chiffre(frmcoord::txtms.regarde().texte, -32768, 32767);
     const auto ici = lieu();
     if (!t0 || !h || !m || !s || !ms || !ici)
         return std::nullopt;
@@ -108,12 +108,12 @@ std::optional<general::place> place_du_ciel() {
 } // namespace
 
 monture mode() {
-    if (frminterface::barequa.regarde_visible())
+    if (frminterface::barequa.regarde().visible)
         return monture::equatoriale;
-    return frminterface::baraltaz.regarde_visible() ? monture::altazimutale : monture::aucune;
+    return frminterface::baraltaz.regarde().visible ? monture::altazimutale : monture::aucune;
 }
 
-bool raquette() { return frminterface::Timer.regarde_marche(); }
+bool raquette() { return frminterface::Timer.regarde().marche; }
 bool pointage_en_cours() { return frmDepl::fiche.est_charge(); }
 
 std::optional<general::place> position(std::int64_t date) {
@@ -131,8 +131,8 @@ std::optional<site> lieu() {
     using namespace frmconfig;
     if (!fiche.est_charge())
         return lieu_du_fichier();
-    return lieu_de({txtdegre.regarde_texte(), txtmin.regarde_texte(), txtlatdeg.regarde_texte(),
-                    txtlatmin.regarde_texte()});
+    return lieu_de({txtdegre.regarde().texte, txtmin.regarde().texte, txtlatdeg.regarde().texte,
+                    txtlatmin.regarde().texte});
 }
 
 std::optional<heure> maintenant() {
@@ -142,15 +142,15 @@ std::optional<heure> maintenant() {
         const int decalage = choisi != 0 ? choisi : plateforme::decalage_du_mois(civil.mois);
         return heure{plateforme::depuis_date(civil) - decalage * 3'600'000LL, decalage};
     }
-    const auto h = chiffre(frmcoord::txth.regarde_texte(), 0, 24);
-    const auto m = chiffre(frmcoord::txtmin.regarde_texte(), 0, 60);
-    const auto s = chiffre(frmcoord::txts.regarde_texte(), 0, 60);
-    const int jour = frmcoord::cbjour.regarde_position();
-    const int mois = frmcoord::cbmois.regarde_position();
+    const auto h = chiffre(frmcoord::txth.regarde().texte, 0, 24);
+    const auto m = chiffre(frmcoord::txtmin.regarde().texte, 0, 60);
+    const auto s = chiffre(frmcoord::txts.regarde().texte, 0, 60);
+    const int jour = frmcoord::cbjour.regarde().position;
+    const int mois = frmcoord::cbmois.regarde().position;
     if (!h || !m || !s || jour < 0 || mois < 0)
         return std::nullopt;
     const auto minuit = plateforme::depuis_date(
-        {.annee = 2000 + frmcoord::cbannee.regarde_position(), .mois = mois + 1, .jour = jour + 1});
+        {.annee = 2000 + frmcoord::cbannee.regarde().position, .mois = mois + 1, .jour = jour + 1});
     return heure{minuit + std::llround((*h * 3600 + *m * 60 + *s) * 1000), choisi};
 }
 

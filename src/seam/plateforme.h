@@ -1,22 +1,17 @@
-// What the program asks of the machine. A main file chooses one port, one clock, one event loop and one view,
-// and installs them before anything else runs.
+// What the program asks of the machine. A main file chooses one port, one clock and one event loop, and
+// installs them, with a view (store/vue.h), before anything else runs.
 #pragma once
 
 #include "base/entier.h"
 #include "seam/port.h"
+#include "seam/rappel.h"
 
 #include <cstdint>
 #include <cstdlib>
 #include <filesystem>
 #include <string>
 
-namespace shell {
-class minuteur;
-}
-
 namespace plateforme {
-
-class vue;
 
 /// Nanoseconds of one delay count: of the general loop (jogs, paddle, slews), and of the plain integer loop
 /// (bursts).
@@ -48,9 +43,9 @@ class boucle {
     virtual void attend(std::int64_t ns) = 0;
     /// Runs every pending event and returns.
     virtual void cede() = 0;
-    /// Calls `m.tic()` from the event loop once, `ms` milliseconds from now; replaces an earlier call for it.
-    virtual void arme(shell::minuteur& m, int ms) = 0;
-    virtual void desarme(shell::minuteur& m) = 0;
+    /// Calls `r.tic()` from the event loop once, `ms` milliseconds from now; replaces an earlier call for it.
+    virtual void arme(rappel& r, int ms) = 0;
+    virtual void desarme(rappel& r) = 0;
     /// Ends the process from inside any nesting; nothing is unwound that could write a port or a file.
     [[noreturn]] virtual void termine(int statut) = 0;
 };
@@ -59,7 +54,6 @@ struct machine {
     plateforme::port* port = nullptr;
     plateforme::horloge* horloge = nullptr;
     plateforme::boucle* boucle = nullptr;
-    plateforme::vue* vue = nullptr;
     std::filesystem::path donnees;       ///< the data folder
     std::filesystem::path aide = "aide"; ///< the help pages' folder, relative where no one will open them
 };

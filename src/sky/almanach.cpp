@@ -4,6 +4,7 @@
 #include "base/valeurs.h"
 #include "fields/frmcoord_champs.h"
 #include "seam/plateforme.h"
+#include "store/vue.h"
 
 namespace general {
 
@@ -21,7 +22,7 @@ void choisit_dossier(int mois, int annee) {
     if (annee == 2000 || annee == 2001)
         chemindate = "date/" + std::to_string(annee);
     else
-        plateforme::courante.vue->message("choix de l'année non valide");
+        shell::vue_courante->message("choix de l'année non valide");
     if (mois >= 1 && mois <= 12)
         chemindate += std::string{"/"} + dossiers[static_cast<std::size_t>(mois - 1)];
 }

@@ -75,7 +75,7 @@ void pointealtaz() {
     cibleaz = general::azdeg * 3600;
     affichecible();
     if (ciblealt < 0) {
-        plateforme::courante.vue->message("déplacement impossible : altitude négative !");
+        shell::vue_courante->message("déplacement impossible : altitude négative !");
         distaz = 0;
         distalt = 0;
         return;

@@ -3,6 +3,9 @@
 
 #include "base/entier.h"
 #include "base/nombre.h"
+#include "seam/image.h"
+#include "seam/plateforme.h"
+#include "seam/rappel.h"
 #include "seam/toile.h"
 #include "store/panneau.h"
 
@@ -26,13 +29,34 @@ struct touche {
     bool ctrl = false;
 };
 
+/// Runs a handler if one is wired.
+template <class... A> void repond(const std::function<void(A...)>& f, A... a) {
+    if (f)
+        f(a...);
+}
+
 /// What every control has.
 class controle {
   public:
     controle(const controle&) = delete;
     controle& operator=(const controle&) = delete;
 
+    /// Live values, back to design at each unload.
+    struct etat {
+        std::string texte; ///< caption or text
+        std::vector<std::string> lignes;
+        int position = -1;
+        double valeur = 0;
+        bool visible = true, actif = true, coche = false, enfonce = false;
+        bool marche = false; ///< of a timer
+        int intervalle = 0;  ///< milliseconds
+        boite place;
+        plateforme::image image;
+        plateforme::toile toile;
+    };
+
     // Looking, without loading.
+    const etat& regarde() const { return v().e; }
     genre espece() const { return genre_; }
     std::string_view nom_court() const { return nom_; }
     int indice() const { return indice_; }                             ///< place in its array, -1 outside one
@@ -42,28 +66,18 @@ class controle {
     controle* cadre() const { return dessin_.cadre; }
     const dessin& comme_dessine() const { return dessin_; }
     bool a(style s) const { return (dessin_.traits & s) != 0; }
-    int rang() const; ///< its number in the panel
-    bool regarde_visible() const;
-    bool regarde_actif() const;
-    bool regarde_enfonce() const;
-    bool regarde_coche() const;
-    double regarde_valeur() const;
-    int regarde_position() const;
-    const std::string& regarde_texte() const; ///< caption or text
-    const std::vector<std::string>& regarde_lignes() const;
-    boite regarde_place() const;
-    const plateforme::image& regarde_image() const;
+    int rang() const { return v().rang; } ///< its number in the panel
 
     // Accesses.
-    bool visible();
-    void visible(bool oui);
-    bool actif();
-    void actif(bool oui);
-    int largeur();
-    int hauteur();
-    void largeur(int twips);
-    void hauteur(int twips);
-    void deplace(int x, int y);
+    bool visible() { return acces().visible; }
+    void visible(bool oui) { change(&etat::visible, oui, aspect::visible); }
+    bool actif() { return acces().actif; }
+    void actif(bool oui) { change(&etat::actif, oui, aspect::actif); }
+    int largeur() { return acces().place.l; }
+    int hauteur() { return acces().place.h; }
+    void largeur(int twips) { occupe({acces().place.x, e().place.y, twips, e().place.h}); }
+    void hauteur(int twips) { occupe({acces().place.x, e().place.y, e().place.l, twips}); }
+    void deplace(int x, int y) { occupe({x, y, acces().place.l, e().place.h}); }
 
     /// Whether a person could act on it: nothing frozen, it and all around it visible and enabled. Loads the
     /// panel.
@@ -73,19 +87,51 @@ class controle {
     constexpr controle(genre g, panneau& p, const char* nom, boite place, dessin d, int indice)
         : genre_(g), fiche_(&p), nom_(nom), place_(place), dessin_(d), indice_(indice) {}
 
-    struct etat;     // live values, back to design at each unload
-    struct reponses; // what its events run, wired once
-    struct vie;
-    friend class panneau;
-    vie& v() const;
-    etat& acces(); ///< loads the panel
-    etat& e() const;
-    reponses& r() const;
-    void dit(plateforme::aspect a) const;
+    /// What its events run, wired once.
+    struct reponses {
+        std::function<void()> clic, double_clic, droit, appui, relachement, change, plus, moins, tic;
+        std::function<void(shell::souris)> souris;
+        std::function<void(shell::touche)> touche;
+    };
+    struct vie {
+        etat e;
+        reponses r;
+        int rang = 0;
+        bool tenu = false;      // mouse button held down on it
+        bool en_cours = false;  // a timer's handler is on the stack
+        bool en_retard = false; // and a tick came due meanwhile
+    };
+    /// Ends the process for a control that its panel does not list.
+    vie& v() const {
+        if (!vie_) [[unlikely]]
+            absent();
+        return *vie_;
+    }
+    etat& e() const { return v().e; }
+    reponses& r() const { return v().r; }
+    etat& acces() { return fiche_->charge(), e(); } ///< loads the panel
+    void dit(aspect a);                             ///< to the view
     /// Sets a member and tells the view, if it differs.
-    template <class T> bool change(T etat::*membre, T valeur, plateforme::aspect a);
+    template <class T> bool change(T etat::*membre, T valeur, aspect a) {
+        auto& place = acces().*membre;
+        if (place == valeur)
+            return false;
+        place = std::move(valeur);
+        dit(a);
+        return true;
+    }
+    void occupe(boite place) { change(&etat::place, place, aspect::place); }
+    /// What an act of the user is wired to, if a person could do it.
+    template <class... A> void agis(const std::function<void(A...)>& reponse, A... a) {
+        if (joignable())
+            repond(reponse, a...);
+    }
+    /// For a value that it cannot take: fatal (`propriete`), with its name.
+    [[noreturn]] void refuse(const std::string& valeur) const;
 
   private:
+    friend class panneau;
+    [[noreturn]] void absent() const;
     void construit(int rang);
     void revient_au_dessin();
     virtual void s_eteint() {} // a timer stops
@@ -99,29 +145,29 @@ class controle {
     vie* vie_ = nullptr;
 };
 
-/// A text field.
-class champ_texte : public controle {
+/// Menu entries, bars of the main frame and their buttons, and timers have no place of their own.
+constexpr bool a_une_place(genre g) {
+    return g != genre::entree && g != genre::barre_outils && g != genre::outil && g != genre::barre_etat &&
+           g != genre::minuteur;
+}
+
+/// A control of one kind, which can do what `traits` can.
+template <genre G, class traits> class de_genre : public traits {
   public:
-    constexpr champ_texte(panneau& p, const char* nom, boite place, dessin d = {}, int indice = -1)
-        : controle(genre::texte, p, nom, place, d, indice) {}
-    std::string lit();
-    double nombre() { return base::nombre(lit(), lieu()); }
-    /// Rounded with ties to the even number; what does not fit is fatal (`depassement`), with the field's
-    /// name.
-    base::entier16 nombre16() { return base::entier16{nombre(), lieu()}; }
-    base::entier32 nombre32() { return base::entier32{nombre(), lieu()}; }
-    void ecrit(const std::string& texte);
-    void ecrit(double x) { ecrit(base::texte(x)); }
-    void ecrit(base::entier16 n) { ecrit(base::texte(n)); }
-    void ecrit(base::entier32 n) { ecrit(base::texte(n)); }
-    void saisit(const std::string& texte); ///< a user typed it
+    constexpr de_genre(panneau& p, const char* nom, boite place, dessin d = {},
+                       int indice = -1) requires(a_une_place(G))
+        : traits(G, p, nom, place, d, indice) {}
+    constexpr de_genre(panneau& p, const char* nom, dessin d = {}, int indice = -1) requires(!a_une_place(G))
+        : traits(G, p, nom, {}, d, indice) {}
 };
+
+// ---- what several kinds can do
 
 /// Captions: of labels, buttons, frames, menu entries.
 class legendable : public controle {
   public:
-    std::string legende();
-    void legende(const std::string& texte);
+    std::string legende() { return acces().texte; }
+    void legende(const std::string& texte) { change(&etat::texte, texte, aspect::texte); }
 
   protected:
     using controle::controle;
@@ -130,43 +176,111 @@ class legendable : public controle {
 /// A caption that answers to a click, where something is wired to it.
 class cliquable : public legendable {
   public:
-    void au_clic(std::function<void()> f);
-    void a_l_appui(std::function<void()> f);
-    void au_relachement(std::function<void()> f);
+    void au_clic(std::function<void()> f) { r().clic = std::move(f); }
+    void a_l_appui(std::function<void()> f) { r().appui = std::move(f); }
+    void au_relachement(std::function<void()> f) { r().relachement = std::move(f); }
     void clic();    ///< a user's whole click
     void appuie();  ///< mouse button down: stop buttons act here
     void relache(); ///< mouse button up: the others act here, if the panel has stayed loaded since
-    bool a_une_commande() const;
+    bool a_une_commande() const { return r().clic || r().appui || r().relachement; }
 
   protected:
     using legendable::legendable;
-    virtual void agit();
+    virtual void agit() { repond(r().clic); }
 };
 
-class champ_etiquette : public cliquable {
+/// What is ticked.
+class cochable : public cliquable {
   public:
-    constexpr champ_etiquette(panneau& p, const char* nom, boite place, dessin d = {}, int indice = -1)
-        : cliquable(genre::etiquette, p, nom, place, d, indice) {}
+    bool coche() { return acces().coche; }
+    void coche(bool oui) { change(&etat::coche, oui, aspect::coche); }
+
+  protected:
+    using cliquable::cliquable;
 };
 
-class champ_bouton : public cliquable {
+/// Lines of which one is selected. A position runs from -1, none, to the last line; any other is fatal
+/// (`propriete`). A change of position fires its click.
+class selectionnable : public controle {
   public:
-    constexpr champ_bouton(panneau& p, const char* nom, boite place, dessin d = {}, int indice = -1)
-        : cliquable(genre::bouton, p, nom, place, d, indice) {}
+    int position() { return acces().position; }
+    void position(base::entier32 k);
+    std::string ligne(int k);
+    void ajoute(const std::string& ligne);
+    void ajoute(std::vector<std::string> lignes);
+    void vide();
+    void au_clic(std::function<void()> f) { r().clic = std::move(f); }
+    void au_double_clic(std::function<void()> f) { r().double_clic = std::move(f); }
+    void au_clic_droit(std::function<void()> f) { r().droit = std::move(f); }
+    void choisit(int k); ///< a user's click on a line; -1: on none
+    void double_clic(int k);
+    void droit(int k);
+
+  protected:
+    using controle::controle;
+
+  private:
+    int premiere() const { return a(style::sans_vide) ? 0 : -1; }
+    bool selectionne(int k);
+    void sur_la_ligne(int k, const std::function<void()>& reponse);
+};
+
+/// A whole value in a range; one outside it is fatal (`propriete`). A value that differs fires the change;
+/// one it already has fires nothing.
+class reglable : public controle {
+  public:
+    base::entier32 valeur() { return base::entier32{acces().valeur}; }
+    void valeur(base::entier32 n);
+    bool place(base::entier32 n); ///< sets it without its event; whether it differs
+    void au_changement(std::function<void()> f) { r().change = std::move(f); }
+    void regle(int n); ///< a user moves it; beyond an end it stays there
+
+  protected:
+    using controle::controle;
+};
+
+// ---- the kinds
+
+using champ_etiquette = de_genre<genre::etiquette, cliquable>;
+using champ_cadre = de_genre<genre::cadre, legendable>;
+using champ_liste = de_genre<genre::liste, selectionnable>;
+using champ_deroulante = de_genre<genre::deroulante, selectionnable>;
+using champ_barre = de_genre<genre::barre, reglable>;
+using champ_curseur = de_genre<genre::curseur, reglable>;
+using champ_barre_outils = de_genre<genre::barre_outils, controle>;
+using champ_barre_etat = de_genre<genre::barre_etat, legendable>;
+using champ_outil = de_genre<genre::outil, cliquable>; ///< its index in its toolbar counts from 1
+
+class champ_texte : public de_genre<genre::texte, controle> {
+  public:
+    using de_genre::de_genre;
+    std::string lit() { return acces().texte; }
+    double nombre() { return base::nombre(lit(), lieu()); }
+    /// Rounded with ties to the even number; what does not fit is fatal (`depassement`), with the field's
+    /// name.
+    base::entier16 nombre16() { return base::entier16{nombre(), lieu()}; }
+    base::entier32 nombre32() { return base::entier32{nombre(), lieu()}; }
+    void ecrit(const std::string& texte) { change(&etat::texte, texte, aspect::texte); }
+    void ecrit(double x) { ecrit(base::texte(x)); }
+    void ecrit(base::entier16 n) { ecrit(base::texte(n)); }
+    void ecrit(base::entier32 n) { ecrit(base::texte(n)); }
+    void saisit(const std::string& texte); ///< a user typed it
+};
+
+class champ_bouton : public de_genre<genre::bouton, cliquable> {
+  public:
+    using de_genre::de_genre;
     /// The pressed state, which reads True during a click's handler.
-    bool enfonce();
-    void enfonce(bool oui);
+    bool enfonce() { return acces().enfonce; }
+    void enfonce(bool oui) { change(&etat::enfonce, oui, aspect::enfonce); }
 
   protected:
     void agit() override;
 };
 
-class champ_coche : public cliquable {
+class champ_coche : public de_genre<genre::coche, cochable> {
   public:
-    constexpr champ_coche(panneau& p, const char* nom, boite place, dessin d = {}, int indice = -1)
-        : cliquable(genre::coche, p, nom, place, d, indice) {}
-    bool coche();
-    void coche(bool oui);
+    using de_genre::de_genre;
     void regle(bool oui); ///< a user ticks or clears it
 
   protected:
@@ -174,11 +288,10 @@ class champ_coche : public cliquable {
 };
 
 /// One of the options of its frame: setting it clears the others.
-class champ_option : public cliquable {
+class champ_option : public de_genre<genre::option, cochable> {
   public:
-    constexpr champ_option(panneau& p, const char* nom, boite place, dessin d = {}, int indice = -1)
-        : cliquable(genre::option, p, nom, place, d, indice) {}
-    bool coche();
+    using cochable::coche;
+    using de_genre::de_genre;
     void coche(bool oui); ///< becoming set fires its click
 
   protected:
@@ -189,160 +302,64 @@ class champ_option : public cliquable {
 };
 
 /// Picture field; serves as a drawn button too.
-class champ_image : public cliquable {
+class champ_image : public de_genre<genre::image, cliquable> {
   public:
-    constexpr champ_image(panneau& p, const char* nom, boite place, dessin d = {}, int indice = -1)
-        : cliquable(genre::image, p, nom, place, d, indice) {}
-    void image(const plateforme::image& i);
+    using de_genre::de_genre;
+    void image(const plateforme::image& i) { change(&etat::image, i, aspect::image); }
 };
 
-class champ_cadre : public legendable {
+class champ_hautbas : public de_genre<genre::hautbas, controle> {
   public:
-    constexpr champ_cadre(panneau& p, const char* nom, boite place, dessin d = {}, int indice = -1)
-        : legendable(genre::cadre, p, nom, place, d, indice) {}
-};
-
-/// A list, or a drop-down list. A position runs from -1, nothing selected, to the last line; any other is
-/// fatal
-/// (`propriete`). A change of position fires its click.
-class champ_liste : public controle {
-  public:
-    constexpr champ_liste(panneau& p, const char* nom, boite place, dessin d = {}, int indice = -1)
-        : champ_liste(genre::liste, p, nom, place, d, indice) {}
-    int position();
-    void position(base::entier32 k);
-    std::string ligne(int k);
-    void ajoute(const std::string& ligne);
-    void ajoute(std::vector<std::string> lignes);
-    void vide();
-    void au_clic(std::function<void()> f);
-    void au_double_clic(std::function<void()> f);
-    void au_clic_droit(std::function<void()> f);
-    void choisit(int k); ///< a user's click on a line; -1: on none
-    void double_clic(int k);
-    void droit(int k);
-
-  protected:
-    constexpr champ_liste(genre g, panneau& p, const char* nom, boite place, dessin d, int indice)
-        : controle(g, p, nom, place, d, indice) {}
-
-  private:
-    bool selectionne(int k);
-};
-
-class champ_deroulante : public champ_liste {
-  public:
-    constexpr champ_deroulante(panneau& p, const char* nom, boite place, dessin d = {}, int indice = -1)
-        : champ_liste(genre::deroulante, p, nom, place, d, indice) {}
-};
-
-/// A scroll bar or slider with whole values in its range; a value outside it is fatal (`propriete`). A value
-/// that differs fires the change; one it already has fires nothing.
-class champ_barre : public controle {
-  public:
-    constexpr champ_barre(panneau& p, const char* nom, boite place, dessin d = {}, int indice = -1)
-        : champ_barre(genre::barre, p, nom, place, d, indice) {}
-    base::entier32 valeur();
-    void valeur(base::entier32 n);
-    void place(base::entier32 n); ///< sets it without its event
-    void au_changement(std::function<void()> f);
-    void regle(int n); ///< a user moves it; beyond an end it stays there
-
-  protected:
-    constexpr champ_barre(genre g, panneau& p, const char* nom, boite place, dessin d, int indice)
-        : controle(g, p, nom, place, d, indice) {}
-
-  private:
-    bool pose(base::entier32 n);
-};
-
-class champ_curseur : public champ_barre {
-  public:
-    constexpr champ_curseur(panneau& p, const char* nom, boite place, dessin d = {}, int indice = -1)
-        : champ_barre(genre::curseur, p, nom, place, d, indice) {}
-};
-
-class champ_hautbas : public controle {
-  public:
-    constexpr champ_hautbas(panneau& p, const char* nom, boite place, dessin d = {}, int indice = -1)
-        : controle(genre::hautbas, p, nom, place, d, indice) {}
-    void au_plus(std::function<void()> f);
-    void au_moins(std::function<void()> f);
-    void plus();
-    void moins();
+    using de_genre::de_genre;
+    void au_plus(std::function<void()> f) { r().plus = std::move(f); }
+    void au_moins(std::function<void()> f) { r().moins = std::move(f); }
+    void plus() { agis(r().plus); }
+    void moins() { agis(r().moins); }
 };
 
 /// A progress bar; a value outside its range is fatal (`propriete`).
-class champ_progression : public controle {
+class champ_progression : public de_genre<genre::progression, controle> {
   public:
-    constexpr champ_progression(panneau& p, const char* nom, boite place, dessin d = {}, int indice = -1)
-        : controle(genre::progression, p, nom, place, d, indice) {}
-    double valeur();
+    using de_genre::de_genre;
+    double valeur() { return acces().valeur; }
     void valeur(double x);
 };
 
 /// A drawing surface with mouse and keys. It keeps what is drawn on it; the view paints it when it is told.
-class champ_surface : public controle {
+class champ_surface : public de_genre<genre::surface, controle> {
   public:
-    constexpr champ_surface(panneau& p, const char* nom, boite place, dessin d = {}, int indice = -1)
-        : controle(genre::surface, p, nom, place, d, indice) {}
-    void a_la_souris(std::function<void(souris)> f);
-    void a_la_touche(std::function<void(touche)> f);
-    void presse(souris s);
-    void frappe(touche t);
+    using de_genre::de_genre;
+    void a_la_souris(std::function<void(souris)> f) { r().souris = std::move(f); }
+    void a_la_touche(std::function<void(touche)> f) { r().touche = std::move(f); }
+    void presse(souris s) { agis(r().souris, s); }
+    void frappe(touche t) { agis(r().touche, t); }
     /// What stands on it, to draw on. The reference holds until the panel is unloaded.
-    plateforme::toile& toile();
+    plateforme::toile& toile() { return acces().toile; }
     /// Has the view paint what was drawn.
-    void peint();
-    const plateforme::toile& regarde_toile() const;
+    void peint() { dit(aspect::dessin); }
 };
 
 /// A menu entry, of the menu bar or of a popup. One with children may have a command of its own.
-class entree : public cliquable {
+class entree : public de_genre<genre::entree, cochable> {
   public:
-    constexpr entree(panneau& p, const char* nom, dessin d = {}, int indice = -1)
-        : cliquable(genre::entree, p, nom, {}, d, indice) {}
-    bool coche();
-    void coche(bool oui);
+    using de_genre::de_genre;
     /// Opens it as a popup and returns when that has closed; the command chosen has run by then.
     void ouvre(const entree* defaut = nullptr);
-};
-
-class champ_barre_outils : public controle {
-  public:
-    constexpr champ_barre_outils(panneau& p, const char* nom, dessin d = {})
-        : controle(genre::barre_outils, p, nom, {}, d, -1) {}
-};
-
-class champ_barre_etat : public legendable {
-  public:
-    constexpr champ_barre_etat(panneau& p, const char* nom, dessin d = {})
-        : legendable(genre::barre_etat, p, nom, {}, d, -1) {}
-};
-
-/// A button of a toolbar; its index there counts from 1.
-class champ_outil : public cliquable {
-  public:
-    constexpr champ_outil(panneau& p, const char* nom, dessin d, int indice)
-        : cliquable(genre::outil, p, nom, {}, d, indice) {}
 };
 
 /// A system timer. Its tick is never re-entered: one that comes due while its handler is on the stack waits
 /// until that has returned, an unload or not. The next tick is due one interval after the start of the last
 /// one; those missed are dropped.
-class minuteur : public controle {
+class minuteur : public de_genre<genre::minuteur, controle>, public plateforme::rappel {
   public:
-    /// `d.intervalle` in milliseconds; `d.coche`: on at design.
-    constexpr minuteur(panneau& p, const char* nom, dessin d)
-        : controle(genre::minuteur, p, nom, {}, d, -1) {}
-    bool marche();
+    using de_genre::de_genre;
+    bool marche() { return acces().marche; }
     /// On what is on already, nothing changes.
     void marche(bool oui);
-    /// Below 1 counts as 1; a new interval counts from its setting.
+    /// Milliseconds; below 1 counts as 1; a new interval counts from its setting.
     void intervalle(base::entier32 ms);
-    void au_tic(std::function<void()> f);
-    bool regarde_marche() const;
-    void tic(); ///< called by the event loop when it is due
+    void au_tic(std::function<void()> f) { r().tic = std::move(f); }
+    void tic() override; ///< called by the event loop when it is due
 
   private:
     void s_eteint() override;

@@ -1,13 +1,9 @@
 #include "seam/plateforme.h"
-#include "store/etat.h"
+#include "store/controles.h"
 
 #include <algorithm>
 
 namespace shell {
-
-bool minuteur::marche() { return acces().marche; }
-bool minuteur::regarde_marche() const { return e().marche; }
-void minuteur::au_tic(std::function<void()> f) { r().change = std::move(f); }
 
 void minuteur::marche(bool oui) {
     auto& x = acces();
@@ -47,7 +43,7 @@ void minuteur::tic() {
     }
     plateforme::courante.boucle->arme(*this, e().intervalle);
     v().en_cours = true;
-    repond(r().change);
+    repond(r().tic);
     v().en_cours = false;
     if (std::exchange(v().en_retard, false) && e().marche)
         plateforme::courante.boucle->arme(*this, 0);

@@ -1,6 +1,8 @@
 #include "store/panneau.h"
 
-#include "store/etat.h"
+#include "seam/plateforme.h"
+#include "store/controles.h"
+#include "store/vue.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -79,31 +81,31 @@ void panneau::charge() {
     if (x.charge)
         return;
     x.charge = true;
-    plateforme::courante.vue->panneau_change(*this);
+    vue_courante->panneau_change(*this);
     repond(x.chargement);
 }
 
 void panneau::montre() {
     auto& x = acces();
     if (x.visible) {
-        plateforme::courante.vue->eleve(*this);
+        vue_courante->eleve(*this);
         return;
     }
     x.visible = true;
-    plateforme::courante.vue->panneau_change(*this);
+    vue_courante->panneau_change(*this);
 }
 
 void panneau::cache() {
     auto& x = acces();
     x.visible = false;
-    plateforme::courante.vue->panneau_change(*this);
+    vue_courante->panneau_change(*this);
 }
 
 std::string panneau::legende() { return acces().legende; }
 
 void panneau::legende(const std::string& texte) {
     acces().legende = texte;
-    plateforme::courante.vue->panneau_change(*this);
+    vue_courante->panneau_change(*this);
 }
 
 int panneau::largeur() { return acces().largeur; }
@@ -111,17 +113,17 @@ int panneau::hauteur() { return acces().hauteur; }
 
 void panneau::largeur(int twips) {
     acces().largeur = twips;
-    plateforme::courante.vue->panneau_change(*this);
+    vue_courante->panneau_change(*this);
 }
 
 void panneau::hauteur(int twips) {
     acces().hauteur = twips;
-    plateforme::courante.vue->panneau_change(*this);
+    vue_courante->panneau_change(*this);
 }
 
 void panneau::maximise(bool oui) {
     acces().maximise = oui;
-    plateforme::courante.vue->panneau_change(*this);
+    vue_courante->panneau_change(*this);
 }
 
 void panneau::decharge() {
@@ -135,7 +137,7 @@ void panneau::decharge() {
     revient_au_dessin();
     repond(x.remise);
     x.en_decharge = false;
-    plateforme::courante.vue->panneau_change(*this);
+    vue_courante->panneau_change(*this);
 }
 
 void panneau::ferme() {

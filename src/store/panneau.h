@@ -1,15 +1,13 @@
 // The panel field store: panels are the program's data, and their fields hold it as an observer sees it.
 //
 // A panel is declared in its `*_champs.h`: one line a control, place in twips inside its frame, design
-// values. Its behaviour is wired to it by `shell/programme.cpp`. Any access to a control, read or write,
+// values. Its behaviour is wired to it by `frame/programme.cpp`. Any access to a control, read or write,
 // loads a panel that is not loaded, in the middle of whoever asked; unloading brings the design back.
 //
 // Two kinds of call stand on a control: those of code (`ecrit`, `position`, `valeur`...), which always act,
 // and the acts of a user (`clic`, `saisit`, `choisit`...), which do nothing on what a person could not reach.
 // Real windows, scenarios and tests share the acts.
 #pragma once
-
-#include "store/vue.h"
 
 #include <functional>
 #include <string>
@@ -75,7 +73,8 @@ enum style : unsigned {
 struct dessin {
     const char* legende = "";    ///< caption, or text of a text field
     controle* cadre = nullptr;   ///< frame, toolbar or parent entry around it
-    const char* image = "";      ///< name of its design picture; the index in the image list for toolbars
+    const char* image = "";      ///< name of its design picture
+    int icone = 0;               ///< a toolbar button's place in the image list
     unsigned traits = ordinaire; ///< bits of `style`
     bool visible = true;
     bool actif = true;
@@ -85,8 +84,12 @@ struct dessin {
     int valeur = 0;
     int petit = 1; ///< small and large step
     int grand = 1;
-    int intervalle = 0; ///< of a timer, milliseconds
+    int intervalle = 0;  ///< of a timer, milliseconds
+    bool marche = false; ///< a timer that is on at design
 };
+
+/// What changed of a control.
+enum class aspect { texte, lignes, position, valeur, coche, visible, actif, place, image, enfonce, dessin };
 
 /// What a close box does.
 enum class fermeture { decharge, cache, aucune, termine };

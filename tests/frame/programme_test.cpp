@@ -44,7 +44,7 @@ TEST_F(Programme, bulles) {
             const auto g = c->espece();
             const bool sans_legende = g == texte || g == liste || g == deroulante || g == barre ||
                                       g == curseur || g == hautbas || g == outil || c->a(shell::symbole) ||
-                                      (g == bouton && c->regarde_texte().empty());
+                                      (g == bouton && c->regarde().texte.empty());
             EXPECT_TRUE(!sans_legende || !bulles::bulle(*c).empty()) << p->nom() << '.' << c->nom();
             EXPECT_FALSE(p->est_charge());
         }

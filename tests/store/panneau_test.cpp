@@ -63,7 +63,7 @@ TEST_F(Panneau, AnyAccessLoadsItAndShowsNothing) {
         EXPECT_EQ(pris().substr(0, 7), "charge ");
     }
     fiche.decharge();
-    EXPECT_EQ(texte.regarde_texte(), "12abc");
+    EXPECT_EQ(texte.regarde().texte, "12abc");
     EXPECT_FALSE(fiche.est_charge()) << "looking loads nothing";
 }
 
@@ -84,11 +84,11 @@ TEST_F(Panneau, UnloadBringsBackTheDesign) {
     EXPECT_EQ(pris(), "decharge ");
     EXPECT_FALSE(fiche.est_charge() || fiche.est_visible());
     EXPECT_EQ(fiche.regarde_largeur(), 3000);
-    EXPECT_EQ(fiche.regarde_legende() + texte.regarde_texte(), "Essai12abc");
-    EXPECT_TRUE(liste_objets.regarde_lignes().empty() && bouton.regarde_visible());
+    EXPECT_EQ(fiche.regarde_legende() + texte.regarde().texte, "Essai12abc");
+    EXPECT_TRUE(liste_objets.regarde().lignes.empty() && bouton.regarde().visible);
     EXPECT_EQ(p.compte, 0);
     boucle.avance(1'000'000'000);
-    EXPECT_FALSE(horloge.regarde_marche());
+    EXPECT_FALSE(horloge.regarde().marche);
     // From its own handlers it ends once.
     fiche.au_dechargement([this] {
         journal += "decharge ";

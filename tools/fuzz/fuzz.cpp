@@ -38,7 +38,8 @@ template <class F> void avec_fichier(const char* nom, std::string_view octets, F
     plateforme::boucle_virtuelle boucle;
     std::ostringstream sortie;
     plateforme::vue_scenario vue{sortie, [] { return std::string{"-"}; }};
-    plateforme::courante = {&port, &boucle, &boucle, &vue, donnees};
+    plateforme::courante = {&port, &boucle, &boucle, donnees};
+    shell::vue_courante = &vue;
     base::installe_gestionnaire([](base::cause, const std::string&) { throw 0; });
     base::ecrit_fichier(donnees / nom, octets);
     programme::construit();

@@ -5,6 +5,7 @@
 #include "fields/frminterface_champs.h"
 #include "frame/programme.h"
 #include "machines/qt/lance.h"
+#include "store/vue.h"
 
 #include <csignal>
 #include <cstdio>
@@ -31,8 +32,8 @@ class boucle_reelle final : public plateforme::boucle {
         if (reste > 0 && --reste == 0)
             geste();
     }
-    void arme(shell::minuteur&, int) override {}
-    void desarme(shell::minuteur&) override {}
+    void arme(plateforme::rappel&, int) override {}
+    void desarme(plateforme::rappel&) override {}
     [[noreturn]] void termine(int statut) override { throw fin{statut}; }
 
     int reste = 0;
@@ -42,11 +43,11 @@ class boucle_reelle final : public plateforme::boucle {
     std::function<void(std::int64_t)> attente_;
 };
 
-class vue_absente final : public plateforme::vue {
-    void panneau_change(const shell::panneau&) override {}
-    void eleve(const shell::panneau&) override {}
-    void repeint(const shell::panneau&) override {}
-    void controle_change(const shell::controle&, plateforme::aspect) override {}
+class vue_absente final : public shell::vue {
+    void panneau_change(shell::panneau&) override {}
+    void eleve(shell::panneau&) override {}
+    void repeint(shell::panneau&) override {}
+    void controle_change(shell::controle&, shell::aspect) override {}
     shell::entree* ouvre_menu(shell::entree&, const shell::entree*) override { return nullptr; }
     void message(const std::string& texte) override { std::printf("message : %s\n", texte.c_str()); }
     plateforme::image charge_image(const std::filesystem::path&) override { return {1, 10, 10, 96}; }
@@ -121,7 +122,8 @@ int lance(int, char**, composition c) {
         raise(SIGSTOP);
     boucle_reelle boucle{c.attente};
     vue_absente vue;
-    courante = {&c.port, &c.horloge, &boucle, &vue, VELMORIA_DONNEES};
+    courante = {&c.port, &c.horloge, &boucle, VELMORIA_DONNEES};
+    shell::vue_courante = &vue;
     programme::construit();
     if (!c.avis.empty())
         std::printf("boîte : %s\n", c.avis.c_str());

@@ -40,7 +40,7 @@ constexpr int assez = 1'000'000; // writes: a longer life proves no more
 
 // A direction value of the delivered mount, alone or with one step line raised above it.
 bool permise(unsigned v) {
-    suivi = suivi || frmaltazsuivi::timcompteur.regarde_marche();
+    suivi = suivi || frmaltazsuivi::timcompteur.regarde().marche;
     return v <= 4 || v == 8 || v == 12 || (suivi && (v == 6 || v == 9));
 }
 
@@ -76,7 +76,7 @@ constexpr const char* fins[] = {"division par zéro : ", "racine d'un nombre né
 
 bool a_portee(const shell::controle& c) {
     for (const auto* k = &c; k; k = k->cadre())
-        if (!k->regarde_visible() || !k->regarde_actif() || k->a(shell::surgissant) ||
+        if (!k->regarde().visible || !k->regarde().actif || k->a(shell::surgissant) ||
             k->a(shell::separateur))
             return false;
     return true;
@@ -162,7 +162,7 @@ class personne {
 
     std::string acte_sur(const shell::controle& c) {
         const auto nom = " " + std::string{c.fiche().nom()} + "." + c.nom();
-        const auto lignes = static_cast<int>(c.regarde_lignes().size());
+        const auto lignes = static_cast<int>(c.regarde().lignes.size());
         static constexpr const char* sur_liste[] = {"choisit", "double", "double", "droit"};
         static constexpr const char* sur_bouton[] = {"enfonce", "relache", "clic", "clic", "clic", "clic"};
         switch (c.espece()) {
@@ -210,7 +210,7 @@ class personne {
             return "avance 1ms";
         const auto& c = *parmi(choix);
         const bool mortel = c.nom() == "Quitter" || c.nom() == "cbannee" ||
-                            (c.nom() == "cmdchoix" && frmconfig::lbObjets.regarde_position() < 0);
+                            (c.nom() == "cmdchoix" && frmconfig::lbObjets.regarde().position < 0);
         return mortel && !une_fois_sur(30) ? "avance 1ms" : acte_sur(c);
     }
 
@@ -229,8 +229,8 @@ class personne {
 
     void acte_et_ordres() {
         const bool suit =
-            frmaltazsuivi::timcompteur.regarde_marche() || frmequapilot::timersuivi.regarde_marche();
-        const bool attend = une_fois_sur(suit || frminterface::Timer.regarde_marche() ? 2 : 8);
+            frmaltazsuivi::timcompteur.regarde().marche || frmequapilot::timersuivi.regarde().marche;
+        const bool attend = une_fois_sur(suit || frminterface::Timer.regarde().marche ? 2 : 8);
         const auto a = attend ? "avance " + duree(0, 3) : acte();
         int ordres = une_fois_sur(2) ? entre(1, suit ? 12 : 4) : 0; // for its yields
         reste_ -= ordres + 1;

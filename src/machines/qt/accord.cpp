@@ -18,6 +18,7 @@ namespace plateforme::qt {
 
 namespace {
 
+using shell::aspect;
 using shell::controle;
 using shell::genre;
 
@@ -30,7 +31,7 @@ void pose(QObject* piece, const char* propriete, const QVariant& valeur) {
 }
 
 void texte_saisi(const controle& c, QObject* piece) {
-    const auto t = affiche(c.regarde_texte());
+    const auto t = affiche(c.regarde().texte);
     if (c.a(shell::multiligne)) {
         auto* w = en<QPlainTextEdit>(piece);
         auto lignes = t;
@@ -51,14 +52,14 @@ void texte(const controle& c, QObject* piece) {
     if (c.espece() == genre::texte)
         texte_saisi(c, piece);
     else if (c.espece() == genre::etiquette)
-        en<etiquette>(piece)->ecrit(c.regarde_texte());
+        en<etiquette>(piece)->ecrit(c.regarde().texte);
     else
-        pose(piece, c.espece() == genre::cadre ? "title" : "text", affiche(c.regarde_texte()));
+        pose(piece, c.espece() == genre::cadre ? "title" : "text", affiche(c.regarde().texte));
 }
 
 // The common case is lines added at the end; anything else is filled anew.
 template <class W> void lignes(const controle& c, W* w) {
-    const auto& l = c.regarde_lignes();
+    const auto& l = c.regarde().lignes;
     const auto texte_a = [w](int i) {
         if constexpr (requires { w->itemText(i); })
             return w->itemText(i);
@@ -77,11 +78,11 @@ template <class W> void lignes(const controle& c, W* w) {
         w->addItems(ajout);
 }
 
-void position(const controle& c, QComboBox* w) { w->setCurrentIndex(c.regarde_position()); }
+void position(const controle& c, QComboBox* w) { w->setCurrentIndex(c.regarde().position); }
 
 void position(const controle& c, QListWidget* w) {
-    w->setCurrentRow(c.regarde_position());
-    if (c.regarde_position() < 0)
+    w->setCurrentRow(c.regarde().position);
+    if (c.regarde().position < 0)
         w->clearSelection();
 }
 
@@ -94,7 +95,7 @@ template <class F> void sur_liste(const controle& c, QObject* piece, F f) {
 }
 
 void valeur(const controle& c, QObject* piece) {
-    double n = c.regarde_valeur();
+    double n = c.regarde().valeur;
     if (c.espece() == genre::progression) {
         const auto& d = c.comme_dessine();
         n = d.max > d.min ? (n - d.min) / (d.max - d.min) * en<QProgressBar>(piece)->maximum() : 0;
@@ -103,17 +104,17 @@ void valeur(const controle& c, QObject* piece) {
 }
 
 void coche(const controle& c, QObject* piece) {
-    if (c.regarde_coche())
+    if (c.regarde().coche)
         pose(piece, "checkable", true);
-    pose(piece, "checked", c.regarde_coche());
+    pose(piece, "checked", c.regarde().coche);
 }
 
 void image(const controle& c, QObject* piece) {
     if (c.espece() != genre::image)
         return;
     auto* w = en<tableau_image>(piece);
-    if (c.regarde_image().numero)
-        w->montre(pixels_de(c.regarde_image()));
+    if (c.regarde().image.numero)
+        w->montre(pixels_de(c.regarde().image));
     else if (*c.comme_dessine().image)
         w->montre(decor(c.comme_dessine().image, w->devicePixelRatioF()));
     else
@@ -131,8 +132,8 @@ bool dans_le_panneau(const QWidget* w) {
 }
 
 void place(const controle& c, QObject* piece) {
-    if (c.regarde_place().l > 0)
-        en<QWidget>(piece)->setGeometry(rectangle(c.regarde_place()));
+    if (c.regarde().place.l > 0)
+        en<QWidget>(piece)->setGeometry(rectangle(c.regarde().place));
 }
 
 } // namespace
@@ -163,16 +164,16 @@ void accorde(const controle& c, QObject* piece, aspect a) {
         return coche(c, piece);
     case aspect::visible:
         return pose(piece, "visible",
-                    c.regarde_visible() && dans_le_panneau(qobject_cast<const QWidget*>(piece)));
+                    c.regarde().visible && dans_le_panneau(qobject_cast<const QWidget*>(piece)));
     case aspect::actif:
-        return pose(piece, "enabled", c.regarde_actif());
+        return pose(piece, "enabled", c.regarde().actif);
     case aspect::place:
         return place(c, piece);
     case aspect::image:
         return image(c, piece);
     case aspect::enfonce:
         if (c.espece() == genre::bouton)
-            en<bouton>(piece)->montre_enfonce(c.regarde_enfonce());
+            en<bouton>(piece)->montre_enfonce(c.regarde().enfonce);
         return;
     case aspect::dessin:
         if (c.espece() == genre::surface)

@@ -11,7 +11,7 @@ class QPlainTextEdit;
 namespace plateforme::qt {
 
 /// `piece` is the widget or action made for the control.
-void accorde(const shell::controle& c, QObject* piece, aspect a);
+void accorde(const shell::controle& c, QObject* piece, shell::aspect a);
 
 /// All that its kind shows.
 void accorde_tout(const shell::controle& c, QObject* piece);

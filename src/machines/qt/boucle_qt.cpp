@@ -1,7 +1,6 @@
 #include "machines/qt/boucle_qt.h"
 
 #include "machines/qt/fin.h"
-#include "store/controles.h"
 
 #include <QCoreApplication>
 #include <QTimerEvent>
@@ -24,14 +23,14 @@ void boucle_qt::cede() {
         apres_cession_();
 }
 
-void boucle_qt::arme(shell::minuteur& m, int ms) {
-    desarme(m);
-    agenda_.push_back({&m, startTimer(std::max(0, ms), Qt::PreciseTimer)});
+void boucle_qt::arme(rappel& r, int ms) {
+    desarme(r);
+    agenda_.push_back({&r, startTimer(std::max(0, ms), Qt::PreciseTimer)});
 }
 
-void boucle_qt::desarme(shell::minuteur& m) {
+void boucle_qt::desarme(rappel& r) {
     const auto place =
-        std::find_if(agenda_.begin(), agenda_.end(), [&m](const rendez_vous& r) { return r.minuteur == &m; });
+        std::find_if(agenda_.begin(), agenda_.end(), [&r](const rendez_vous& v) { return v.rappel == &r; });
     if (place == agenda_.end())
         return;
     killTimer(place->numero);
@@ -43,10 +42,10 @@ void boucle_qt::timerEvent(QTimerEvent* e) {
                                     [e](const rendez_vous& r) { return r.numero == e->timerId(); });
     if (place == agenda_.end())
         return;
-    auto& m = *place->minuteur;
+    auto& r = *place->rappel;
     killTimer(place->numero);
     agenda_.erase(place);
-    m.tic();
+    r.tic();
 }
 
 void boucle_qt::termine(int statut) { fin(statut); }

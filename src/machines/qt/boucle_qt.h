@@ -19,8 +19,8 @@ class boucle_qt final : public QObject, public boucle {
     void attend(std::int64_t ns) override;
     /// One pass of the event loop, always.
     void cede() override;
-    void arme(shell::minuteur& m, int ms) override;
-    void desarme(shell::minuteur& m) override;
+    void arme(rappel& r, int ms) override;
+    void desarme(rappel& r) override;
     [[noreturn]] void termine(int statut) override;
 
     std::uint64_t passes() const { return passes_; }
@@ -30,7 +30,7 @@ class boucle_qt final : public QObject, public boucle {
 
   private:
     struct rendez_vous {
-        shell::minuteur* minuteur;
+        plateforme::rappel* rappel;
         int numero; // Qt's
     };
     std::function<void(std::int64_t)> attente_;

@@ -21,7 +21,7 @@ namespace {
 bool presse_l_arret() {
     auto* pilotage = &frmaltazpilot::fiche;
     auto* autre = &frmequapilot::fiche;
-    if (frminterface::barequa.regarde_visible())
+    if (frminterface::barequa.regarde().visible)
         std::swap(pilotage, autre);
     for (auto* p : {&frmDepl::fiche, pilotage, autre})
         if (p->est_visible()) {

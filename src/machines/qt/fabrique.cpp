@@ -27,7 +27,7 @@ using namespace shell;
 template <class C> C& en(controle& c) { return static_cast<C&>(c); }
 
 Qt::Orientation sens(const controle& c) {
-    const auto p = c.regarde_place();
+    const auto p = c.regarde().place;
     return p.l >= p.h ? Qt::Horizontal : Qt::Vertical;
 }
 
@@ -67,7 +67,7 @@ QWidget* pousse(champ_bouton& c, QWidget* parent) {
     relie(w, &QPushButton::clicked, c, [&c](bool) { c.relache(); });
     if (*c.comme_dessine().image) {
         constexpr int cote = 32; // of the drawings, with room for the button's edge
-        const auto place = rectangle(c.regarde_place());
+        const auto place = rectangle(c.regarde().place);
         const int n = std::min({cote, place.width() - 8, place.height() - 8});
         w->setIcon(face(c.comme_dessine().image));
         w->setIconSize({n, n});
@@ -103,7 +103,7 @@ QWidget* deroulante(champ_deroulante& c, QWidget* parent) {
     return w;
 }
 
-template <class W> QWidget* barre(champ_barre& c, QWidget* parent) {
+template <class W> QWidget* barre(reglable& c, QWidget* parent) {
     const auto& d = c.comme_dessine();
     auto* w = new W{sens(c), parent};
     w->setRange(d.min, d.max);
@@ -166,9 +166,9 @@ QWidget* piece(controle& c, QWidget* parent) {
     case genre::option:
         return option(en<champ_option>(c), parent);
     case genre::barre:
-        return barre<QScrollBar>(en<champ_barre>(c), parent);
+        return barre<QScrollBar>(en<reglable>(c), parent);
     case genre::curseur:
-        return barre<QSlider>(en<champ_barre>(c), parent);
+        return barre<QSlider>(en<reglable>(c), parent);
     case genre::hautbas:
         return hautbas(en<champ_hautbas>(c), parent);
     case genre::progression:

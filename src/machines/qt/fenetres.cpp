@@ -90,11 +90,11 @@ QToolBar* barre_outils(QMainWindow& w, const controle& c) {
 }
 
 QAction* outil(QToolBar& barre, champ_outil& c) {
-    auto* action = barre.addAction(affiche(c.regarde_texte()));
+    auto* action = barre.addAction(affiche(c.regarde().texte));
     // Icons are read when their bar is first seen: at start most bars are hidden.
     QObject::connect(&barre, &QToolBar::visibilityChanged, action, [action, &c](bool visible) {
         if (visible && action->icon().isNull())
-            action->setIcon(icone(c.comme_dessine().valeur));
+            action->setIcon(icone(c.comme_dessine().icone));
     });
     auto* touche = barre.widgetForAction(action);
     new montre_bulle{c, touche};

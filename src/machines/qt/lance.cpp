@@ -79,7 +79,8 @@ seance::seance(int argc, char** argv, composition c) : argc_(argc), c_(std::move
     if (donnees.empty())
         donnees = std::filesystem::path{QCoreApplication::applicationDirPath().toStdString()} / "data";
     const auto aide = std::filesystem::absolute(donnees).lexically_normal().parent_path() / "aide";
-    courante = {&c_.port, &c_.horloge, boucle_.get(), vue_.get(), donnees, aide};
+    courante = {&c_.port, &c_.horloge, boucle_.get(), donnees, aide};
+    shell::vue_courante = vue_.get();
     base::installe_gestionnaire(echoue);
     programme::construit();
 }

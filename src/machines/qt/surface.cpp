@@ -51,7 +51,7 @@ QSize surface::taille_voulue() const {
 void surface::peint() {
     if (image_.size() != taille_voulue())
         image_ = QImage{taille_voulue(), QImage::Format_RGB32};
-    peintre_.peint(image_, champ_.regarde_toile(), devicePixelRatioF());
+    peintre_.peint(image_, champ_.regarde().toile, devicePixelRatioF());
 }
 
 void surface::montre() {

@@ -17,32 +17,30 @@ fenetre* vue_qt::trouve(const shell::panneau& p) const {
     return nullptr;
 }
 
-void vue_qt::panneau_change(const shell::panneau& p) {
+void vue_qt::panneau_change(shell::panneau& p) {
     auto* f = trouve(p);
     if (!f) {
         if (!p.est_visible())
             return;
-        // Panels are declared as variables; the store hands them out for looking only.
-        auto& fiche = const_cast<shell::panneau&>(p);
-        f = fenetres_.emplace_back(cree_fenetre(fiche, zone_)).get();
+        f = fenetres_.emplace_back(cree_fenetre(p, zone_)).get();
         if (p.options().principal)
             zone_ = f->enfants;
     }
     accorde_fenetre(*f);
 }
 
-void vue_qt::eleve(const shell::panneau& p) {
+void vue_qt::eleve(shell::panneau& p) {
     if (auto* f = trouve(p))
         avance(*f);
 }
 
-void vue_qt::repeint(const shell::panneau& p) {
+void vue_qt::repeint(shell::panneau& p) {
     if (auto* f = trouve(p))
         peint(*f);
 }
 
 // A hidden window costs nothing: it is brought up to date when it comes on screen.
-void vue_qt::controle_change(const shell::controle& c, aspect a) {
+void vue_qt::controle_change(shell::controle& c, shell::aspect a) {
     const auto* f = trouve(c.fiche());
     if (!f || f->cadre->isHidden())
         return;

@@ -6,12 +6,12 @@
 
 namespace plateforme::qt {
 
-class vue_qt final : public vue {
+class vue_qt final : public shell::vue {
   public:
-    void panneau_change(const shell::panneau& p) override;
-    void eleve(const shell::panneau& p) override;
-    void repeint(const shell::panneau& p) override;
-    void controle_change(const shell::controle& c, aspect a) override;
+    void panneau_change(shell::panneau& p) override;
+    void eleve(shell::panneau& p) override;
+    void repeint(shell::panneau& p) override;
+    void controle_change(shell::controle& c, shell::aspect a) override;
     shell::entree* ouvre_menu(shell::entree& racine, const shell::entree* defaut) override;
     void message(const std::string& texte) override;
     image charge_image(const std::filesystem::path& chemin) override;

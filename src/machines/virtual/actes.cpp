@@ -61,7 +61,7 @@ bool agit_sur_controle(std::string_view mot, const std::string& reste) {
         } else
             comme<shell::champ_coche>(nom).regle(oui);
     } else if (mot == "regle")
-        comme<shell::champ_barre>(nom).regle(entier(valeur));
+        comme<shell::reglable>(nom).regle(entier(valeur));
     else if (mot == "plus")
         comme<shell::champ_hautbas>(nom).plus();
     else if (mot == "moins")
@@ -79,11 +79,11 @@ bool agit_sur_controle(std::string_view mot, const std::string& reste) {
 bool agit_sur_liste(std::string_view mot, const std::string& reste) {
     const auto [nom, valeur] = premier_mot(reste);
     if (mot == "choisit")
-        comme<shell::champ_liste>(nom).choisit(entier(valeur));
+        comme<shell::selectionnable>(nom).choisit(entier(valeur));
     else if (mot == "double")
-        comme<shell::champ_liste>(nom).double_clic(entier(valeur));
+        comme<shell::selectionnable>(nom).double_clic(entier(valeur));
     else if (mot == "droit")
-        comme<shell::champ_liste>(nom).droit(entier(valeur));
+        comme<shell::selectionnable>(nom).droit(entier(valeur));
     else
         return false;
     return true;

@@ -1,7 +1,6 @@
 #include "machines/virtual/boucle_virtuelle.h"
 
 #include "sky/horloge_equivalente.h"
-#include "store/controles.h"
 
 #include <algorithm>
 
@@ -36,8 +35,8 @@ void boucle_virtuelle::commence_acte() {
 void boucle_virtuelle::lance_premier() {
     auto noeud = file_.extract(file_.begin());
     const auto& e = noeud.value();
-    if (e.minuteur) {
-        e.minuteur->tic();
+    if (e.rappel) {
+        e.rappel->tic();
         return;
     }
     --ordres_;
@@ -46,13 +45,13 @@ void boucle_virtuelle::lance_premier() {
     echeance_ = avant;
 }
 
-void boucle_virtuelle::arme(shell::minuteur& m, int ms) {
-    desarme(m);
-    file_.insert({temps_ + ms * ns_par_ms, 1, numeros_++, &m, {}, {}});
+void boucle_virtuelle::arme(rappel& r, int ms) {
+    desarme(r);
+    file_.insert({temps_ + ms * ns_par_ms, 1, numeros_++, &r, {}, {}});
 }
 
-void boucle_virtuelle::desarme(shell::minuteur& m) {
-    std::erase_if(file_, [&m](const evenement& e) { return e.minuteur == &m; });
+void boucle_virtuelle::desarme(rappel& r) {
+    std::erase_if(file_, [&r](const evenement& e) { return e.rappel == &r; });
 }
 
 void boucle_virtuelle::termine(int statut) { throw fin_du_processus{statut}; }
@@ -64,7 +63,7 @@ void boucle_virtuelle::programme(std::int64_t ns, std::string texte, std::functi
 
 std::string boucle_virtuelle::retire(std::int64_t instant, const std::string& debut) {
     const auto e = std::find_if(file_.begin(), file_.end(), [&](const evenement& x) {
-        return x.quand == instant && !x.minuteur && x.texte.starts_with(debut);
+        return x.quand == instant && !x.rappel && x.texte.starts_with(debut);
     });
     if (e == file_.end())
         return {};

@@ -24,8 +24,8 @@ class boucle_virtuelle final : public boucle, public horloge {
     // boucle
     void attend(std::int64_t ns) override;
     void cede() override;
-    void arme(shell::minuteur& m, int ms) override;
-    void desarme(shell::minuteur& m) override;
+    void arme(rappel& r, int ms) override;
+    void desarme(rappel& r) override;
     [[noreturn]] void termine(int statut) override;
 
     // horloge
@@ -55,7 +55,7 @@ class boucle_virtuelle final : public boucle, public horloge {
         std::int64_t quand;
         int rang; // orders before timers
         std::uint64_t numero;
-        shell::minuteur* minuteur;
+        plateforme::rappel* rappel;
         std::string texte;
         std::function<void()> f;
         bool operator<(const evenement& b) const {

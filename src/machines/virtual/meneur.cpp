@@ -55,7 +55,8 @@ meneur::meneur(const partie& p) : partie_(p), vue_(p.sortie, [this] { return cho
         throw ligne_incomprise{"pas de dossier temporaire"};
     prive_ = modele;
     boucle_.regle_horloge({.annee = 2001, .mois = 1, .jour = 1, .heure = 12});
-    courante = {&port_, &boucle_, &boucle_, &vue_, prive_ / "data"};
+    courante = {&port_, &boucle_, &boucle_, prive_ / "data"};
+    shell::vue_courante = &vue_;
     copie_donnees(p.donnees);
     programme::construit();
 }

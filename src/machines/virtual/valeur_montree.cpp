@@ -37,9 +37,9 @@ bool est_liste(const controle& c) { return c.espece() == genre::liste || c.espec
 
 std::string texte_de(const controle& c) {
     if (!est_liste(c))
-        return sur_une_ligne(c.regarde_texte());
-    const int k = c.regarde_position();
-    return k < 0 ? "" : c.regarde_lignes()[static_cast<std::size_t>(k)];
+        return sur_une_ligne(c.regarde().texte);
+    const int k = c.regarde().position;
+    return k < 0 ? "" : c.regarde().lignes[static_cast<std::size_t>(k)];
 }
 
 std::optional<std::string> de_nature(const controle& c) {
@@ -54,18 +54,18 @@ std::optional<std::string> de_nature(const controle& c) {
         return texte_de(c);
     case genre::liste:
     case genre::deroulante:
-        return std::to_string(c.regarde_position());
+        return std::to_string(c.regarde().position);
     case genre::coche:
     case genre::option:
-        return oui_non(c.regarde_coche());
+        return oui_non(c.regarde().coche);
     case genre::barre:
     case genre::curseur:
     case genre::progression:
-        return base::texte(c.regarde_valeur());
+        return base::texte(c.regarde().valeur);
     case genre::minuteur:
-        return oui_non(static_cast<const shell::minuteur&>(c).regarde_marche());
+        return oui_non(c.regarde().marche);
     case genre::barre_outils:
-        return oui_non(c.regarde_visible());
+        return oui_non(c.regarde().visible);
     case genre::hautbas:
     case genre::image:
     case genre::surface:
@@ -80,21 +80,21 @@ std::optional<std::string> de_propriete(const controle& c, std::string_view prop
     if (propriete == "texte" || (propriete == "legende" && !est_liste(c)))
         return texte_de(c);
     if (propriete == "position" && est_liste(c))
-        return std::to_string(c.regarde_position());
+        return std::to_string(c.regarde().position);
     if (propriete == "lignes" && est_liste(c))
-        return std::to_string(c.regarde_lignes().size());
+        return std::to_string(c.regarde().lignes.size());
     if (propriete == "valeur")
-        return base::texte(c.regarde_valeur());
+        return base::texte(c.regarde().valeur);
     if (propriete == "coche")
-        return oui_non(c.regarde_coche());
+        return oui_non(c.regarde().coche);
     if (propriete == "visible")
-        return oui_non(c.regarde_visible());
+        return oui_non(c.regarde().visible);
     if (propriete == "actif")
-        return oui_non(c.regarde_actif());
+        return oui_non(c.regarde().actif);
     if (propriete == "largeur")
-        return std::to_string(c.regarde_place().l);
+        return std::to_string(c.regarde().place.l);
     if (propriete == "hauteur")
-        return std::to_string(c.regarde_place().h);
+        return std::to_string(c.regarde().place.h);
     return std::nullopt;
 }
 

@@ -14,7 +14,7 @@ namespace {
 // Runs through an entry's children in order, submenus in place.
 template <class F> void parcourt(const shell::entree& racine, F&& f) {
     for (auto* c : racine.fiche().controles()) {
-        if (c->espece() != shell::genre::entree || c->cadre() != &racine || !c->regarde_visible())
+        if (c->espece() != shell::genre::entree || c->cadre() != &racine || !c->regarde().visible)
             continue;
         auto& e = *static_cast<shell::entree*>(c);
         f(e);
@@ -59,9 +59,9 @@ std::string texte_de(const primitive& p) {
     return {};
 }
 
-void vue_scenario::controle_change(const shell::controle& c, aspect a) {
-    if (a == aspect::dessin)
-        dessin_ = static_cast<const shell::champ_surface&>(c).regarde_toile().primitives();
+void vue_scenario::controle_change(shell::controle& c, shell::aspect a) {
+    if (a == shell::aspect::dessin)
+        dessin_ = static_cast<const shell::champ_surface&>(c).regarde().toile.primitives();
 }
 
 vue_scenario::vue_scenario(std::ostream& sortie, std::function<std::string()> choix)
@@ -70,8 +70,8 @@ vue_scenario::vue_scenario(std::ostream& sortie, std::function<std::string()> ch
 shell::entree* vue_scenario::ouvre_menu(shell::entree& racine, const shell::entree* defaut) {
     sortie_ << "menu " << racine.nom() << '\n';
     parcourt(racine, [&](shell::entree& e) {
-        sortie_ << "  " << e.nom() << " \"" << e.regarde_texte() << "\" coche=" << e.regarde_coche()
-                << " actif=" << e.regarde_actif() << " defaut=" << (&e == defaut) << '\n';
+        sortie_ << "  " << e.nom() << " \"" << e.regarde().texte << "\" coche=" << e.regarde().coche
+                << " actif=" << e.regarde().actif << " defaut=" << (&e == defaut) << '\n';
     });
     const auto nom = choix_();
     if (nom == "-")

@@ -11,15 +11,15 @@
 
 namespace plateforme {
 
-class vue_scenario final : public vue {
+class vue_scenario final : public shell::vue {
   public:
     /// `choix` is asked for the name of the entry chosen in a popup, "-" for none.
     vue_scenario(std::ostream& sortie, std::function<std::string()> choix);
 
-    void panneau_change(const shell::panneau&) override {}
-    void eleve(const shell::panneau&) override {}
-    void repeint(const shell::panneau&) override {}
-    void controle_change(const shell::controle& c, aspect a) override;
+    void panneau_change(shell::panneau&) override {}
+    void eleve(shell::panneau&) override {}
+    void repeint(shell::panneau&) override {}
+    void controle_change(shell::controle& c, shell::aspect a) override;
     shell::entree* ouvre_menu(shell::entree& racine, const shell::entree* defaut) override;
     void message(const std::string& texte) override;
     image charge_image(const std::filesystem::path& chemin) override;

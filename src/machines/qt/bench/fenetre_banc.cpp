@@ -306,7 +306,7 @@ void fenetre_banc::rafraichit() {
     const std::array<double, 2> crus{general::posaz, general::posalt};
     const std::array<std::array<std::uint64_t, 2>, 2> comptes{{{n.az0, n.az8}, {n.alt0, n.alt2}}};
     // The equatorial mount's position is no angle of an axis: it is not counted in steps.
-    const bool compte = frminterface::baraltaz.regarde_visible();
+    const bool compte = frminterface::baraltaz.regarde().visible;
     for (std::size_t i = 0; i < 2; ++i) {
         const auto cadence = monture.cadence(i == 0 ? axe::azimut : axe::altitude, maintenant);
         ecrit(axes_[i].cadence, QString::number(cadence, 'f', cadence < 100 ? 1 : 0).replace('.', ','));
