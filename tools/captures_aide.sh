@@ -18,7 +18,8 @@ noms = ["altazimutal", "banc", "pilotage", "frmaltazpilot-ouvert", "frmequapilot
 origine, dossier = map(Path, sys.argv[1:])
 dossier.mkdir(exist_ok=True)
 for ancienne in dossier.glob("*.png"):
-    ancienne.unlink()
+    if not ancienne.name.startswith("planetarium-"):  # taken by hand, with KStars and its driver connected
+        ancienne.unlink()
 for nom in noms:
     fichier = dossier / f"{nom}.png"
     image = Image.open(origine / f"{nom}.png").convert("RGB")

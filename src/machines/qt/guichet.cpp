@@ -1,6 +1,5 @@
 #include "machines/qt/guichet.h"
 
-#include <QSocketNotifier>
 #include <QTimerEvent>
 #include <algorithm>
 #include <array>
@@ -18,7 +17,8 @@ namespace plateforme::qt {
 
 namespace {
 
-constexpr int periode_ms = 10;
+constexpr int periode_ms = 10;       // with a client
+constexpr int periode_seul_ms = 100; // without
 constexpr std::size_t clients_maximum = 2;
 constexpr std::size_t portion = 1024; // bytes read of a client at a tick: two hundred commands
 constexpr std::size_t attente_maximum =
@@ -44,8 +44,7 @@ guichet::guichet(adresse_du_guichet ou) : ou_(std::move(ou)) {
     ouvre();
     if (!faute_.empty())
         return;
-    arrivees_ = std::make_unique<QSocketNotifier>(ecoute_, QSocketNotifier::Read);
-    connect(arrivees_.get(), &QSocketNotifier::activated, this, [this] { accueille(); });
+    arme();
     guichet_ouvert = this;
 }
 
@@ -95,7 +94,6 @@ void guichet::accueille() {
     regle(prise, IPPROTO_TCP, TCP_KEEPINTVL, 2);
     regle(prise, IPPROTO_TCP, TCP_KEEPCNT, 3);
     clients_.push_back({prise, adresse_de(adresse, longueur), planetarium::liaison{suivant_++}, {}});
-    arme();
 }
 
 // Reads a portion, answers it; false if the client has gone.
@@ -115,16 +113,13 @@ bool guichet::sert(client& c) {
     return c.a_dire.size() <= attente_maximum;
 }
 
-void guichet::arme() {
-    if (minuterie_ == 0 && !clients_.empty())
-        minuterie_ = startTimer(periode_ms, Qt::PreciseTimer);
-}
+void guichet::arme() { startTimer(clients_.empty() ? periode_seul_ms : periode_ms, Qt::PreciseTimer); }
 
 // A timer in its handler does not fire again: the next one is armed before an act begins, whose yields it
 // serves.
 void guichet::timerEvent(QTimerEvent* e) {
     killTimer(e->timerId());
-    minuterie_ = 0;
+    accueille();
     std::erase_if(clients_, [this](client& c) {
         if (sert(c))
             return false;

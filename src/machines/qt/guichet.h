@@ -5,17 +5,15 @@
 #include "remote/planetarium.h"
 
 #include <QObject>
-#include <memory>
 #include <string>
 #include <vector>
 
-class QSocketNotifier;
-
 namespace plateforme::qt {
 
-/// Listens from its making on. What comes is left to the kernel until the next tick of 10 ms, in a motion's
-/// yields too, and read there by portions: no flood of commands takes more than its share of a motion. Two
-/// clients at once; a third is let go, and so is one that does not read its answers.
+/// Listens from its making on. What comes is left to the kernel until the next tick, in a motion's yields
+/// too, and read there by portions: no flood of commands takes more than its share of a motion, and no socket
+/// is watched at each yield, which would cost the fastest jog an eighth of its pulses. Two clients at once; a
+/// third is let go, and so is one that does not read its answers.
 class guichet final : public QObject {
   public:
     explicit guichet(adresse_du_guichet ou);
@@ -44,10 +42,8 @@ class guichet final : public QObject {
     adresse_du_guichet ou_;
     int ecoute_ = -1;
     std::string faute_;
-    std::unique_ptr<QSocketNotifier> arrivees_;
     std::vector<client> clients_;
     planetarium::numero suivant_ = 1;
-    int minuterie_ = 0; // Qt's number, 0 for none
 };
 
 /// That of this process, or null: what its windows tell of it.

@@ -322,7 +322,7 @@ void fenetre_banc::rafraichit() {
     ecrit(retard_,
           QString::number(static_cast<double>(etabli_.pire_retard()) / 1000.0, 'f', 1).replace('.', ',') +
               " µs");
-    if (plateforme::qt::guichet_ouvert)
+    if (planetarium_ && plateforme::qt::guichet_ouvert)
         ecrit(planetarium_, plateforme::qt::affiche(plateforme::qt::guichet_ouvert->etat()));
 }
 
