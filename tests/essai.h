@@ -3,15 +3,17 @@
 #pragma once
 
 #include "base/fatale.h"
+#include "base/fichier.h"
 #include "base/octets.h"
+#include "base/provisoire.h"
 #include "bench/monture.h"
 #include "bench/port_simule.h"
 #include "frame/programme.h"
 #include "machines/virtual/boucle_virtuelle.h"
 #include "store/vue.h"
 
-#include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <gtest/gtest.h>
 
 namespace essais {
@@ -39,20 +41,7 @@ template <class F> std::string attend_echec(base::cause attendue, F&& f) {
 }
 
 /// A folder of the test's own.
-class dossier_prive {
-  public:
-    dossier_prive() {
-        std::string modele = (std::filesystem::temp_directory_path() / "velmoria-XXXXXX").string();
-        if (!mkdtemp(modele.data()))
-            std::abort();
-        chemin = modele;
-    }
-    ~dossier_prive() { std::filesystem::remove_all(chemin); }
-    dossier_prive(const dossier_prive&) = delete;
-    dossier_prive& operator=(const dossier_prive&) = delete;
-
-    std::filesystem::path chemin;
-};
+using dossier_prive = base::dossier_provisoire;
 
 class vue_muette final : public shell::vue {
   public:
@@ -66,7 +55,7 @@ class vue_muette final : public shell::vue {
 };
 
 /// The program put together in its design state, not started, on 2001 August 15 at 22 h.
-class machine : private dossier_prive {
+class machine : private base::dossier_provisoire {
   public:
     machine() {
         std::filesystem::copy(VELMORIA_DONNEES, chemin, std::filesystem::copy_options::recursive);
@@ -78,7 +67,8 @@ class machine : private dossier_prive {
 
     /// Replaces a data file; `contenu` is UTF-8, with its line ends.
     void fichier(const std::string& nom, const std::string& contenu) const {
-        base::ecrit_fichier(chemin / nom, base::vers_1252(contenu));
+        std::ofstream{chemin / nom, std::ios::binary}
+            << base::vers_1252(contenu); // need not outlast a power cut
     }
 
     banc::monture monture;

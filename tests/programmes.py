@@ -1,9 +1,11 @@
 #!/usr/bin/python3
 """programmes.py FOLDER: the command lines of the programs, without a display; each row a call and what must come of it."""
 
+import os
 import re
 import subprocess
 import sys
+import tempfile
 
 TOUS = ["velmoria", "velmoria-aujourdhui", "velmoria-banc", "velmoria-scenario"]
 FENETRES = TOUS[:3]
@@ -29,4 +31,20 @@ for programmes, arguments, milieu, statut, motif in LIGNES:
         if fait.returncode != statut or not re.fullmatch(motif.replace("NOM", nom), dits[0]) or dits[1]:
             fautes += 1
             print(f"{nom} {arguments} {milieu}: status {fait.returncode}\n{fait.stdout}{fait.stderr}")
+
+# A scenario that is killed: the next one takes away what it left among the temporary files.
+with tempfile.TemporaryDirectory() as temporaire:
+    appel = {"args": [f"{sys.argv[1]}/velmoria-scenario", "-"], "env": {"TMPDIR": temporaire}, "stdin": subprocess.PIPE}
+    tue = subprocess.Popen(**appel, stdout=subprocess.PIPE)
+    tue.stdin.write(b"montre cmdsens\n")
+    tue.stdin.flush()
+    tue.stdout.read(1)  # its folder is made by then
+    tue.kill()
+    tue.wait()
+    restes = [len(os.listdir(temporaire))]
+    subprocess.run(**appel | {"stdin": subprocess.DEVNULL}, check=True)
+    restes.append(len(os.listdir(temporaire)))
+    if restes != [1, 0]:
+        fautes += 1
+        print(f"left behind by a killed scenario, and by the one after it: {restes}")
 sys.exit(fautes)

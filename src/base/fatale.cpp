@@ -11,15 +11,16 @@ namespace {
 gestionnaire_fatal gestionnaire = nullptr;
 
 // In the order of the causes.
-constexpr std::array<std::string_view, 8> libelles{"division par zéro",
+constexpr std::array<std::string_view, 9> libelles{"division par zéro",
                                                    "dépassement de capacité",
                                                    "indice hors limites",
                                                    "fichier introuvable",
                                                    "fin de fichier dépassée",
                                                    "racine d'un nombre négatif",
                                                    "valeur de propriété non valide",
-                                                   "image illisible"};
-static_assert(libelles.size() == static_cast<std::size_t>(cause::image_illisible) + 1);
+                                                   "image illisible",
+                                                   "écriture impossible"};
+static_assert(libelles.size() == static_cast<std::size_t>(cause::ecriture_impossible) + 1);
 
 } // namespace
 

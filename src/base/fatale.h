@@ -16,6 +16,7 @@ enum class cause {
     racine_negative,
     propriete,
     image_illisible,
+    ecriture_impossible,
 };
 
 /// Where a value was read, for a failure's message: a file, a variable, or a field of a panel.

@@ -1,13 +1,8 @@
 #include "base/octets.h"
 
-#include "base/fatale.h"
-
 #include <array>
-#include <cerrno>
 #include <cstdint>
-#include <cstdio>
-#include <cstring>
-#include <memory>
+#include <utility>
 
 namespace base {
 
@@ -61,15 +56,6 @@ char octet_de(std::uint32_t c) {
     return '?';
 }
 
-struct ferme {
-    void operator()(std::FILE* f) const { std::fclose(f); }
-};
-using fichier = std::unique_ptr<std::FILE, ferme>;
-
-[[noreturn]] void refuse(const std::filesystem::path& chemin, int erreur) {
-    fatale(cause::fichier_introuvable, chemin.string() + " (" + std::strerror(erreur) + ")");
-}
-
 } // namespace
 
 std::string de_1252(std::string_view octets) {
@@ -91,30 +77,6 @@ std::string vers_1252(std::string_view utf8) {
         utf8.remove_prefix(n);
     }
     return s;
-}
-
-std::string lit_fichier(const std::filesystem::path& chemin) {
-    const fichier f{std::fopen(chemin.c_str(), "rb")};
-    if (!f)
-        refuse(chemin, errno);
-    std::string s;
-    std::array<char, 65536> bloc;
-    std::size_t n = 0;
-    while ((n = std::fread(bloc.data(), 1, bloc.size(), f.get())) > 0)
-        s.append(bloc.data(), n);
-    if (std::ferror(f.get()))
-        refuse(chemin, errno); // a folder opens, and fails here
-    return s;
-}
-
-void ecrit_fichier(const std::filesystem::path& chemin, std::string_view octets) {
-    std::FILE* f = std::fopen(chemin.c_str(), "wb");
-    if (!f)
-        refuse(chemin, errno);
-    const bool ecrit = std::fwrite(octets.data(), 1, octets.size(), f) == octets.size();
-    const int erreur = errno;
-    if (std::fclose(f) != 0 || !ecrit)
-        refuse(chemin, ecrit ? errno : erreur);
 }
 
 } // namespace base

@@ -1,5 +1,6 @@
 #include "base/valeurs.h"
 
+#include "base/fichier.h"
 #include "base/nombre.h"
 #include "base/octets.h"
 

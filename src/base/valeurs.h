@@ -69,7 +69,8 @@ class ecrivain {
     void nombre(base::entier32 n) { nombre(n.reel()); }
     /// "Vrai" or "Faux".
     void booleen(bool b);
-    /// Replaces the file's content. Fatal (`fichier_introuvable`) if it cannot be written.
+    /// Replaces the file's content, or leaves it whole: fatal (`ecriture_impossible`) if it cannot be
+    /// written.
     void enregistre(const std::filesystem::path& chemin) const;
 
   private:

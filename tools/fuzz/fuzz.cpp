@@ -2,7 +2,6 @@
 // the one: a reader may refuse, never break.
 
 #include "base/fatale.h"
-#include "base/octets.h"
 #include "base/valeurs.h"
 #include "bench/port_simule.h"
 #include "catalogue/catalogue.h"
@@ -16,6 +15,7 @@
 #include "remote/planetarium.h"
 
 #include <cstdlib>
+#include <fstream>
 #include <map>
 #include <sstream>
 
@@ -41,7 +41,7 @@ template <class F> void avec_fichier(const char* nom, std::string_view octets, F
     plateforme::courante = {&port, &boucle, &boucle, donnees};
     shell::vue_courante = &vue;
     base::installe_gestionnaire([](base::cause, const std::string&) { throw 0; });
-    base::ecrit_fichier(donnees / nom, octets);
+    std::ofstream{donnees / nom, std::ios::binary} << octets; // no sync: thousands a second
     programme::construit();
     try {
         f();

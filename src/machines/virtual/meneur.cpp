@@ -1,5 +1,6 @@
 #include "machines/virtual/meneur.h"
 
+#include "base/fichier.h"
 #include "base/nombre.h"
 #include "base/octets.h"
 #include "bench/horloge_banc.h"
@@ -10,6 +11,7 @@
 #include "machines/virtual/valeur_montree.h"
 
 #include <algorithm>
+#include <fstream>
 #include <istream>
 #include <optional>
 #include <ostream>
@@ -50,28 +52,34 @@ bool dans_le_dossier(const fs::path& nom) {
 } // namespace
 
 meneur::meneur(const partie& p) : partie_(p), vue_(p.sortie, [this] { return choix_de_menu(); }) {
-    std::string modele = (fs::temp_directory_path() / "velmoria-XXXXXX").string();
-    if (!mkdtemp(modele.data()))
-        throw ligne_incomprise{"pas de dossier temporaire"};
-    prive_ = modele;
     boucle_.regle_horloge({.annee = 2001, .mois = 1, .jour = 1, .heure = 12});
-    courante = {&port_, &boucle_, &boucle_, prive_ / "data"};
+    courante = {&port_, &boucle_, &boucle_, prive_.chemin / "data"};
     shell::vue_courante = &vue_;
     copie_donnees(p.donnees);
     programme::construit();
 }
 
-meneur::~meneur() {
-    std::error_code ignoree;
-    fs::remove_all(prive_, ignoree);
-}
-
 void meneur::copie_donnees(const fs::path& origine) {
-    std::error_code erreur;
-    fs::remove_all(courante.donnees, erreur);
-    fs::copy(origine, courante.donnees, fs::copy_options::recursive, erreur);
-    if (erreur)
-        throw ligne_incomprise{"dossier de données : " + origine.string() + " : " + erreur.message()};
+    try {
+        fs::remove_all(courante.donnees);
+        fs::create_directory(courante.donnees);
+        for (const auto& f :
+             fs::recursive_directory_iterator{origine, fs::directory_options::follow_directory_symlink}) {
+            const auto copie = courante.donnees / f.path().lexically_relative(origine);
+            if (f.is_directory()) {
+                fs::create_directory(copie);
+                continue;
+            }
+            if (!f.is_regular_file())
+                throw ligne_incomprise{"dossier de données : " + f.path().string() +
+                                       " : ce n'est pas un fichier ordinaire"};
+            fs::copy_file(f.path(), copie);
+            fs::permissions(copie, fs::perms::owner_write, fs::perm_options::add);
+        }
+    } catch (const fs::filesystem_error& e) {
+        throw ligne_incomprise{"dossier de données : " + e.path1().string() + " : " +
+                               base::raison(e.code().value())};
+    }
 }
 
 bool meneur::ligne_suivante(std::string& commande) {
@@ -200,7 +208,8 @@ void meneur::ecrit_fichier(const std::string& reste) {
             debut = fin + 1;
         }
     fs::create_directories(chemin.parent_path(), erreur);
-    base::ecrit_fichier(chemin, octets);
+    if (!(std::ofstream{chemin, std::ios::binary} << octets << std::flush))
+        throw ligne_incomprise{"le fichier ne s'écrit pas : " + nom};
 }
 
 std::string meneur::montre_monture() {

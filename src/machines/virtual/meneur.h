@@ -1,6 +1,7 @@
 // The machine a scenario plays on, and the commands it understands.
 #pragma once
 
+#include "base/provisoire.h"
 #include "bench/monture.h"
 #include "bench/port_simule.h"
 #include "machines/virtual/boucle_virtuelle.h"
@@ -42,7 +43,7 @@ class port_virtuel final : public port {
 class meneur {
   public:
     explicit meneur(const partie& p);
-    ~meneur();
+    ~meneur() = default;
     meneur(const meneur&) = delete;
     meneur& operator=(const meneur&) = delete;
 
@@ -71,7 +72,7 @@ class meneur {
     boucle_virtuelle boucle_;
     port_virtuel port_{simule_, boucle_};
     vue_scenario vue_;
-    std::filesystem::path prive_; // the private copy's folder
+    base::dossier_provisoire prive_; // the private copy's folder
     planetarium::liaison liaison_{1};
     bool demarre_ = false;
     int numero_ = 0;

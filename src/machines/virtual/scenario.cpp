@@ -1,6 +1,7 @@
 #include "machines/virtual/scenario.h"
 
 #include "base/fatale.h"
+#include "base/fichier.h"
 #include "machines/virtual/meneur.h"
 #include "machines/virtual/mots.h"
 #include "store/panneau.h"
@@ -63,6 +64,9 @@ int joue(const partie& p) {
         return explique(a.raison);
     } catch (const mouvement_sans_fin&) {
         return explique("un mouvement continue sans que rien de prévu l'arrête");
+    } catch (const std::filesystem::filesystem_error& e) {
+        return explique("dossier temporaire : " + e.path1().string() + " : " +
+                        base::raison(e.code().value()));
     } catch (const arret_fatal& a) {
         return explique(a.detail); // while the scene was being set
     }

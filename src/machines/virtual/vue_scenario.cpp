@@ -1,7 +1,7 @@
 #include "machines/virtual/vue_scenario.h"
 
 #include "base/fatale.h"
-#include "base/octets.h"
+#include "base/fichier.h"
 #include "machines/virtual/entete_image.h"
 #include "store/controles.h"
 
