@@ -51,9 +51,12 @@ void compte_a_vide() {
 void charge_images() {
     valeurs::lecteur f{plateforme::fichier_donnees("img/liste.txt")};
     for (int i = 0; !f.fini(); ++i) {
-        const auto nom = f.texte();
-        const auto image =
-            shell::vue_courante->charge_image(plateforme::fichier_donnees("img/" + nom + ".gif"));
+        const auto chemin = plateforme::fichier_donnees("img/" + f.texte() + ".gif");
+        // A list cut short ends in half a name: what is to be mended is the list.
+        if (!std::filesystem::exists(chemin))
+            base::fatale(base::cause::fichier_introuvable,
+                         "img/liste.txt, valeur " + std::to_string(f.lues()) + " : " + chemin.string());
+        const auto image = shell::vue_courante->charge_image(chemin);
         base::element(plateforme::imagesboutons, i, "img/liste.txt, imagesboutons") = image;
     }
 }

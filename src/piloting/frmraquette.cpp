@@ -18,6 +18,8 @@ using piloting::backlashaz;
 
 namespace {
 
+const char* const fichier = "vitessemanu.ini";
+
 // A scroll bar at v stands for the delay count sommet - facteur x v. The ranges join: from the slowest low
 // speed to the quickest fast one they are one scale.
 struct gamme {
@@ -56,7 +58,8 @@ void charge() {
     for (std::size_t i = 0; i < vitesses.size(); ++i)
         vitesses[i].champ.ecrit(vitessemanu[i]);
     for (const auto& v : vitesses)
-        v.barre.valeur(entier32{(v.etendue.sommet - v.champ.nombre()) / v.etendue.facteur, v.champ.lieu()});
+        v.barre.valeur(entier32{(v.etendue.sommet - v.champ.nombre()) / v.etendue.facteur, v.champ.lieu()},
+                       {fichier});
     txtbacklash_alt.ecrit(backlashalt);
     txtbacklash_az.ecrit(backlashaz);
 }
@@ -89,7 +92,7 @@ void enregistre_vitesses() {
             f.nombre(vitessemanu[i]);
         }
     }
-    f.enregistre(plateforme::fichier_donnees("vitessemanu.ini"));
+    f.enregistre(plateforme::fichier_donnees(fichier));
 }
 
 void enregistre() {

@@ -56,7 +56,7 @@ void charge() {
     picpointage.image(imagesboutons[pointage.repos]);
     lbEtoiles.ajoute(catalogue::charge_etoiles(selecteur));
     catalogue::remplit_catalogues(selecteur);
-    lbEtoiles.position(etoile_de_depart);
+    lbEtoiles.position(etoile_de_depart, {catalogue::entrees.front().fichier});
     choix.lbObjets.visible(false);
     choix.lbCatalogue.visible(false);
     choix.Frame4.visible(false);

@@ -19,8 +19,8 @@ void charge_reglages(champs_pointage& c, const std::string& fichier) {
     valeurs::lecteur f{plateforme::fichier_donnees(fichier)};
     const double az = f.nombre();
     const double alt = f.nombre();
-    c.cbpointaz.position(entier32{az - 1});
-    c.cbpointalt.position(entier32{alt - 1});
+    c.cbpointaz.position(entier32{az - 1}, {fichier});
+    c.cbpointalt.position(entier32{alt - 1}, {fichier});
 }
 
 void enregistre_vitesses(champs_pointage& c, const std::string& fichier) {

@@ -18,13 +18,9 @@ constexpr std::array<const char*, 12> dossiers = {"janvier",   "fevrier", "mars"
                                                   "mai",       "juin",    "juillet",  "aout",
                                                   "septembre", "octobre", "novembre", "decembre"};
 
-void choisit_dossier(int mois, int annee) {
-    if (annee == 2000 || annee == 2001)
-        chemindate = "date/" + std::to_string(annee);
-    else
-        shell::vue_courante->message("choix de l'année non valide");
-    if (mois >= 1 && mois <= 12)
-        chemindate += std::string{"/"} + dossiers[static_cast<std::size_t>(mois - 1)];
+// The folder of a month in its year's.
+std::string dossier_du_mois(int mois) {
+    return mois >= 1 && mois <= 12 ? std::string{"/"} + dossiers[static_cast<std::size_t>(mois - 1)] : "";
 }
 
 void lit_mois(const std::string& nom) {
@@ -40,8 +36,19 @@ void lit_almanach() {
     const auto jour = static_cast<std::size_t>(frmcoord::cbjour.position()) + 1; // 0 where none is chosen
     const int mois = frmcoord::cbmois.position() + 1;
     const int annee = frmcoord::cbannee.position() + 2000;
-    choisit_dossier(mois, annee);
-    lit_mois(chemindate + "/sg0.txt");
+    const auto de_l_annee = "date/" + std::to_string(annee);
+    const bool connue = annee == 2000 || annee == 2001;
+    if (connue)
+        chemindate = de_l_annee;
+    else
+        shell::vue_courante->message("choix de l'année non valide");
+    chemindate += dossier_du_mois(mois);
+    const auto nom = chemindate + "/sg0.txt";
+    // The folder is then that of no year, or of one read before; the observer misses a file of this one.
+    if (!connue && !std::filesystem::exists(plateforme::fichier_donnees(nom)))
+        base::fatale(base::cause::fichier_introuvable,
+                     plateforme::fichier_donnees(de_l_annee + dossier_du_mois(mois) + "/sg0.txt").string());
+    lit_mois(nom);
     // The minutes are multiplied in 16 bits.
     tsg0 = entier32{heurealm[jour]} * 3600 + entier32{minutealm[jour] * entier16{60}} +
            entier32{secondealm[jour]};

@@ -36,8 +36,9 @@ void controle::absent() const {
 
 void controle::dit(aspect a) { vue_courante->controle_change(*this, a); }
 
-void controle::refuse(const std::string& valeur) const {
-    base::fatale(base::cause::propriete, std::string{fiche_->nom()} + "." + nom() + " = " + valeur);
+void controle::refuse(const std::string& valeur, const base::lieu& origine) const {
+    base::fatale(base::cause::propriete,
+                 origine.devant() + std::string{fiche_->nom()} + "." + nom() + " = " + valeur);
 }
 
 std::string controle::nom() const {
@@ -138,11 +139,11 @@ void entree::ouvre(const entree* defaut) {
 
 std::string selectionnable::ligne(int k) { return base::element(acces().lignes, k, nom_court()); }
 
-void selectionnable::position(base::entier32 k) {
+void selectionnable::position(base::entier32 k, const base::lieu& origine) {
     const auto n = static_cast<std::int64_t>(acces().lignes.size());
     const std::int64_t p = k.valeur();
     if (p >= n || p < premiere())
-        refuse(base::texte(k));
+        refuse(base::texte(k), origine);
     if (change(&etat::position, static_cast<int>(p), aspect::position))
         repond(r().clic);
 }
@@ -191,14 +192,14 @@ void selectionnable::droit(int k) { sur_la_ligne(k, r().droit); }
 
 // ---- bars
 
-bool reglable::place(base::entier32 n) {
+bool reglable::place(base::entier32 n, const base::lieu& origine) {
     if (n < comme_dessine().min || n > comme_dessine().max)
-        refuse(base::texte(n));
+        refuse(base::texte(n), origine);
     return change(&etat::valeur, n.reel(), aspect::valeur);
 }
 
-void reglable::valeur(base::entier32 n) {
-    if (place(n))
+void reglable::valeur(base::entier32 n, const base::lieu& origine) {
+    if (place(n, origine))
         repond(r().change);
 }
 

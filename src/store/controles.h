@@ -127,7 +127,7 @@ class controle {
             repond(reponse, a...);
     }
     /// For a value that it cannot take: fatal (`propriete`), with its name.
-    [[noreturn]] void refuse(const std::string& valeur) const;
+    [[noreturn]] void refuse(const std::string& valeur, const base::lieu& origine = {}) const;
 
   private:
     friend class panneau;
@@ -204,7 +204,8 @@ class cochable : public cliquable {
 class selectionnable : public controle {
   public:
     int position() { return acces().position; }
-    void position(base::entier32 k);
+    /// `origine`: the file that it comes from, for the message.
+    void position(base::entier32 k, const base::lieu& origine = {});
     std::string ligne(int k);
     void ajoute(const std::string& ligne);
     void ajoute(std::vector<std::string> lignes);
@@ -230,8 +231,9 @@ class selectionnable : public controle {
 class reglable : public controle {
   public:
     base::entier32 valeur() { return base::entier32{acces().valeur}; }
-    void valeur(base::entier32 n);
-    bool place(base::entier32 n); ///< sets it without its event; whether it differs
+    void valeur(base::entier32 n, const base::lieu& origine = {});
+    bool place(base::entier32 n,
+               const base::lieu& origine = {}); ///< sets it without its event; whether it differs
     void au_changement(std::function<void()> f) { r().change = std::move(f); }
     void regle(int n); ///< a user moves it; beyond an end it stays there
 
