@@ -185,4 +185,17 @@ TEST_F(genres, a_surface_gives_mouse_and_keys_in_its_own_units) {
     EXPECT_EQ(code, 103);
 }
 
+TEST_F(genres, a_photograph_too_large_for_qt_is_reduced_while_it_is_read) {
+    const QTemporaryDir dossier;
+    const auto chemin = dossier.filePath("photo.jpg").toStdString();
+    QImage grande{6000, 6000, QImage::Format_RGB32}; // 144 MB
+    grande.fill(Qt::red);
+    grande.setDotsPerMeterX(20000);
+    ASSERT_TRUE(grande.save(QString::fromStdString(chemin)));
+    const auto photo = plateforme::courante.vue->charge_image(chemin);
+    EXPECT_EQ(photo, (plateforme::image{photo.numero, 6000, 6000, 508}));
+    dessin_bouton.image(photo);
+    EXPECT_GT(le<QWidget>("dessin")->grab().toImage().pixelColor(0, 0).red(), 250);
+}
+
 } // namespace

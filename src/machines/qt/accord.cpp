@@ -12,6 +12,7 @@
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QSignalBlocker>
+#include <QTextOption>
 #include <cmath>
 
 namespace plateforme::qt {
@@ -30,14 +31,29 @@ void pose(QObject* piece, const char* propriete, const QVariant& valeur) {
         piece->setProperty(propriete, valeur);
 }
 
+// A break between words is looked for from each line's start to its word's end: a word of a whole page would
+// take minutes.
+QTextOption::WrapMode coupure(const QString& t) {
+    constexpr int mot_trop_long = 1000;
+    int longueur = 0;
+    for (const QChar lettre : t) {
+        longueur = lettre.isSpace() ? 0 : longueur + 1;
+        if (longueur > mot_trop_long)
+            return QTextOption::WrapAnywhere;
+    }
+    return QTextOption::WrapAtWordBoundaryOrAnywhere;
+}
+
 void texte_saisi(const controle& c, QObject* piece) {
     const auto t = affiche(c.regarde().texte);
     if (c.a(shell::multiligne)) {
         auto* w = en<QPlainTextEdit>(piece);
         auto lignes = t;
         lignes.replace("\r\n", "\n");
-        if (lignes_de(*w) != lignes)
+        if (lignes_de(*w) != lignes) {
+            w->setWordWrapMode(coupure(lignes));
             w->setPlainText(lignes);
+        }
         return;
     }
     auto* w = en<QLineEdit>(piece);

@@ -1,14 +1,16 @@
 #include "machines/qt/images.h"
 
 #include "base/fatale.h"
+#include "base/fichier.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QImageReader>
-#include <array>
 #include <cmath>
-#include <fstream>
+#include <cstdint>
 #include <map>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace plateforme::qt {
@@ -33,11 +35,28 @@ QImage lit(const QString& chemin, const char* format) {
 }
 
 // The format by the first bytes, null for neither GIF nor JPEG.
-const char* format_de(const std::filesystem::path& chemin) {
-    std::array<char, 3> debut{};
-    std::ifstream{chemin, std::ios::binary}.read(debut.data(), debut.size());
-    const std::string_view signe{debut.data(), debut.size()};
-    return signe == "GIF" ? "gif" : signe == "\xFF\xD8\xFF" ? "jpeg" : nullptr;
+const char* format_de(std::string_view octets) {
+    return octets.starts_with("GIF") ? "gif" : octets.starts_with("\xFF\xD8\xFF") ? "jpeg" : nullptr;
+}
+
+// A picture of the data folder with the size that it says it has. One that would take more memory than Qt
+// allows is scaled down while it is read.
+std::pair<QImage, QSize> lit_donnee(const std::string& octets) {
+    constexpr int cote_du_reduit = 4096;
+    constexpr std::int64_t octets_par_pixel = 4;
+    const auto* format = format_de(octets);
+    if (!format)
+        return {};
+    auto brut = QByteArray::fromRawData(octets.data(), static_cast<qsizetype>(octets.size()));
+    QBuffer tampon{&brut};
+    QImageReader lecteur{&tampon, format};
+    lecteur.setAutoDetectImageFormat(false);
+    const auto taille = lecteur.size();
+    if (octets_par_pixel * taille.width() * taille.height() > std::int64_t{QImageReader::allocationLimit()}
+                                                                  << 20)
+        lecteur.setScaledSize(taille.scaled(cote_du_reduit, cote_du_reduit, Qt::KeepAspectRatio));
+    auto lue = lecteur.read();
+    return {lue, lecteur.scaledSize().isValid() ? taille : lue.size()};
 }
 
 QPixmap png(const QString& chemin) { return QPixmap::fromImage(lit(chemin, "png")); }
@@ -54,17 +73,14 @@ QIcon toutes_densites(const QString& souche) {
 } // namespace
 
 image charge(const std::filesystem::path& chemin) {
-    if (!std::filesystem::exists(chemin))
-        base::fatale(base::cause::fichier_introuvable, chemin.string());
-    const auto* format = format_de(chemin);
-    const QImage lue = format ? lit(QString::fromStdString(chemin.string()), format) : QImage{};
+    const auto [lue, taille] = lit_donnee(base::lit_fichier(chemin));
     if (lue.isNull())
         base::fatale(base::cause::image_illisible, chemin.string());
     const auto [place, nouvelle] = numeros.try_emplace(chemin, static_cast<int>(chargees.size()) + 1);
     if (nouvelle)
         chargees.emplace_back();
     chargees[static_cast<std::size_t>(place->second - 1)] = lue;
-    return {place->second, lue.width(), lue.height(), densite(lue)};
+    return {place->second, taille.width(), taille.height(), densite(lue)};
 }
 
 QPixmap pixels_de(const image& i) {

@@ -9,7 +9,8 @@
 
 namespace plateforme::qt {
 
-/// Loads a GIF or JPEG picture; the same path loaded again replaces the picture it gave before. A missing
+/// Loads a GIF or JPEG picture, one too large for Qt with fewer pixels than the size given back tells; the
+/// same path loaded again replaces the picture it gave before. A missing
 /// file is fatal (`fichier introuvable`), and so is one that is neither (`image illisible`).
 image charge(const std::filesystem::path& chemin);
 
