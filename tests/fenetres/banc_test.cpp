@@ -2,7 +2,7 @@
 // exact.
 #include "fenetres.h"
 
-#include "base/octets.h"
+#include "base/fichier.h"
 #include "fields/frmaltazpilot_champs.h"
 #include "machines/qt/bench/composition.h"
 #include "machines/qt/bench/fenetre_banc.h"
@@ -104,8 +104,11 @@ TEST_F(banc_d_essai, a_jog_is_counted_and_recorded) {
     presse("enregistre");
     EXPECT_FALSE(le<QLineEdit>("chemin_vcd")->isEnabled());
     avance(40);
-    presse("enregistre");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return fronts(base::lit_fichier(fichier), "pas_az").size() == 40; }))
+        << "within a second or so";
+    fenetre->close(); // ends it, as the button would
     EXPECT_EQ(lu("etat_vcd"), "Enregistré dans " + fichier.string());
+    fenetre->show();
     EXPECT_TRUE(le<QLineEdit>("chemin_vcd")->isEnabled());
     avance(3);
     EXPECT_EQ(lu("sens8_az"), "48");

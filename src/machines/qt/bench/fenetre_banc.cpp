@@ -276,19 +276,33 @@ void fenetre_banc::enregistre_dans(const QString& chemin) {
 }
 
 void fenetre_banc::bascule_enregistrement() {
-    const auto chemin = QDir::toNativeSeparators(chemin_->text());
-    if (etabli_.enregistre_encore()) {
-        const bool complet = etabli_.cesse_d_enregistrer();
-        etat_->setText(complet ? "Enregistré dans " + chemin
-                               : "L'enregistrement dans " + chemin + " est incomplet.");
-    } else if (etabli_.enregistre(plateforme::qt::lu(chemin))) {
-        etat_->setText("Enregistrement en cours dans " + chemin);
-    } else {
-        etat_->setText("Impossible d'écrire " + chemin);
+    if (enregistrement_) {
+        finit_enregistrement();
+        return;
     }
-    const bool en_cours = etabli_.enregistre_encore();
-    enregistre_->setText(en_cours ? "Arrêter l'enregistrement" : "Enregistrer les lignes");
-    chemin_->setEnabled(!en_cours);
+    const auto chemin = QDir::toNativeSeparators(chemin_->text());
+    enregistrement_ = etabli_.enregistre(plateforme::qt::lu(chemin));
+    etat_->setText((enregistrement_ ? "Enregistrement en cours dans " : "Impossible d'écrire ") + chemin);
+    if (enregistrement_)
+        enregistre_->setText("Arrêter l'enregistrement");
+    chemin_->setEnabled(!enregistrement_);
+}
+
+void fenetre_banc::finit_enregistrement() {
+    enregistrement_ = false;
+    const bool complet = etabli_.cesse_d_enregistrer();
+    const auto chemin = QDir::toNativeSeparators(chemin_->text());
+    etat_->setText(complet ? "Enregistré dans " + chemin
+                           : "L'enregistrement dans " + chemin + " est incomplet.");
+    enregistre_->setText("Enregistrer les lignes");
+    chemin_->setEnabled(true);
+}
+
+// With every refresh; a disk that has filled up is told without waiting for the button.
+void fenetre_banc::suit_enregistrement() {
+    etabli_.rince();
+    if (!etabli_.enregistre_encore())
+        finit_enregistrement();
 }
 
 void fenetre_banc::rafraichit() {
@@ -328,7 +342,15 @@ void fenetre_banc::rafraichit() {
 
 void fenetre_banc::timerEvent(QTimerEvent*) {
     rafraichit();
-    etabli_.rince();
+    if (enregistrement_)
+        suit_enregistrement();
+}
+
+// Nothing would be left to end it with.
+void fenetre_banc::closeEvent(QCloseEvent* e) {
+    if (enregistrement_)
+        finit_enregistrement();
+    QWidget::closeEvent(e);
 }
 
 } // namespace banc

@@ -28,6 +28,7 @@ class fenetre_banc final : public QWidget {
   protected:
     void showEvent(QShowEvent* e) override;
     void timerEvent(QTimerEvent*) override;
+    void closeEvent(QCloseEvent*) override;
 
   private:
     struct ligne { // one axis
@@ -42,6 +43,8 @@ class fenetre_banc final : public QWidget {
     QWidget* fait_horloge();
     QWidget* fait_mesures();
     void bascule_enregistrement();
+    void finit_enregistrement();
+    void suit_enregistrement();
 
     etabli& etabli_;
     horloge_banc& horloge_;
@@ -57,6 +60,7 @@ class fenetre_banc final : public QWidget {
     QLabel* etat_ = nullptr;
     QLabel* planetarium_ = nullptr; // where the program listens to one
     bool placee_ = false;
+    bool enregistrement_ = false; ///< one is under way, as far as the window has told
 };
 
 } // namespace banc
