@@ -143,7 +143,7 @@ void mesure_repos(const char* ou) {
 } // namespace
 
 int main(int argc, char** argv) {
-    banc::horloge_banc horloge{plateforme::temps_universel,
+    banc::horloge_banc horloge{plateforme::temps_systeme(),
                                [] { return int{general::decalageheure.valeur()}; }};
     plateforme::attente_precise attente;
     banc::etabli etabli{plateforme::horloge_monotone};

@@ -173,7 +173,7 @@ void periode(plateforme::qt::boucle_qt& boucle, banc::port_simule& port, int ms_
 } // namespace
 
 int main(int argc, char** argv) {
-    banc::horloge_banc horloge{plateforme::temps_universel,
+    banc::horloge_banc horloge{plateforme::temps_systeme(),
                                [] { return int{general::decalageheure.valeur()}; }};
     plateforme::attente_precise attente;
     banc::etabli etabli{plateforme::horloge_monotone};

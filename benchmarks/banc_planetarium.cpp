@@ -146,7 +146,7 @@ void compare(banc::port_simule& port, const char* quoi, int compte) {
 } // namespace
 
 int main(int argc, char** argv) {
-    banc::horloge_banc horloge{plateforme::temps_universel,
+    banc::horloge_banc horloge{plateforme::temps_systeme(),
                                [] { return int{general::decalageheure.valeur()}; }};
     plateforme::attente_precise attente;
     banc::etabli etabli{plateforme::horloge_monotone};

@@ -103,7 +103,7 @@ int main(int argc, char** argv) {
     const int secondes = argc > 1 ? std::atoi(argv[1]) : 20;
     const int coeurs = static_cast<int>(std::thread::hardware_concurrency());
     const int processus = argc > 2 ? std::atoi(argv[2]) : coeurs;
-    banc::horloge_banc horloge{plateforme::temps_universel,
+    banc::horloge_banc horloge{plateforme::temps_systeme(),
                                [] { return int{general::decalageheure.valeur()}; }};
     horloge.regle({2000, 8, 15, 23, 0, 0, 0});
     plateforme::attente_precise attente;

@@ -134,7 +134,7 @@ int main(int argc, char** argv) {
     fs::remove_all(donnees);
     fs::copy(argv[1], donnees, fs::copy_options::recursive);
 
-    banc::horloge_banc horloge{plateforme::temps_universel, [] { return 2; }};
+    banc::horloge_banc horloge{plateforme::temps_systeme(), [] { return 2; }};
     horloge.regle({2000, 8, 15, 22, 30, 12, 0});
     plateforme::attente_precise attente;
     banc::etabli etabli{plateforme::horloge_monotone};

@@ -35,6 +35,7 @@
 #include "piloting/jeu.h"
 #include "pointing/frmaltazpointage.h"
 #include "pointing/frmequapointage.h"
+#include "seam/image.h"
 #include "settings/frmconfig.h"
 #include "settings/frmequaconfig.h"
 #include "sky/almanach.h"
@@ -54,52 +55,32 @@ namespace {
 
 shell::registre tout;
 
-std::vector<shell::panneau*> panneaux() {
-    frminterface::fiche.construit(frminterface::controles());
-    frmintro::fiche.construit(frmintro::controles());
-    frmaltazpilot::fiche.construit(frmaltazpilot::controles());
-    frmequapilot::fiche.construit(frmequapilot::controles());
-    frmraquette::fiche.construit(frmraquette::controles());
-    frmcoord::fiche.construit(frmcoord::controles());
-    frmconfig::fiche.construit(frmconfig::controles());
-    frmequaconfig::fiche.construit(frmequaconfig::controles());
-    frmaltazsuivi::fiche.construit(frmaltazsuivi::controles());
-    frmaltazpointage::fiche.construit(frmaltazpointage::controles());
-    frmequapointage::fiche.construit(frmequapointage::controles());
-    frmDepl::fiche.construit(frmDepl::controles());
-    Frmnotes::fiche.construit(Frmnotes::controles());
-    frmaide::fiche.construit(frmaide::controles());
-    frmcopyright::fiche.construit(frmcopyright::controles());
-    frmCercle::fiche.construit(frmCercle::controles());
-    frmImage::fiche.construit(frmImage::controles());
-    frmLegend::fiche.construit(frmLegend::controles());
+struct piece {
+    shell::panneau& fiche;
+    std::vector<shell::controle*> (*controles)();
+    void (*branche)(); // none where nothing answers
+};
 
-    frminterface::branche();
-    frmaltazpilot::branche();
-    frmequapilot::branche();
-    frmraquette::branche();
-    frmcoord::branche();
-    frmconfig::branche();
-    frmequaconfig::branche();
-    frmaltazpointage::branche();
-    frmequapointage::branche();
-    frmDepl::branche();
-    frmaltazsuivi::branche();
-    Frmnotes::branche();
-    frmaide::branche();
-    frmcopyright::branche();
-    frmCercle::branche();
-    frmImage::branche();
-    frmLegend::branche();
-
-    return {
-        &frminterface::fiche,     &frmintro::fiche,        &frmcoord::fiche,      &frmconfig::fiche,
-        &frmequaconfig::fiche,    &frmaltazpilot::fiche,   &frmequapilot::fiche,  &frmraquette::fiche,
-        &frmaltazpointage::fiche, &frmequapointage::fiche, &frmDepl::fiche,       &frmCercle::fiche,
-        &frmImage::fiche,         &frmLegend::fiche,       &frmaltazsuivi::fiche, &Frmnotes::fiche,
-        &frmaide::fiche,          &frmcopyright::fiche,
-    };
-}
+const piece pieces[] = {
+    {frminterface::fiche, frminterface::controles, frminterface::branche},
+    {frmintro::fiche, frmintro::controles, nullptr},
+    {frmcoord::fiche, frmcoord::controles, frmcoord::branche},
+    {frmconfig::fiche, frmconfig::controles, frmconfig::branche},
+    {frmequaconfig::fiche, frmequaconfig::controles, frmequaconfig::branche},
+    {frmaltazpilot::fiche, frmaltazpilot::controles, frmaltazpilot::branche},
+    {frmequapilot::fiche, frmequapilot::controles, frmequapilot::branche},
+    {frmraquette::fiche, frmraquette::controles, frmraquette::branche},
+    {frmaltazpointage::fiche, frmaltazpointage::controles, frmaltazpointage::branche},
+    {frmequapointage::fiche, frmequapointage::controles, frmequapointage::branche},
+    {frmDepl::fiche, frmDepl::controles, frmDepl::branche},
+    {frmCercle::fiche, frmCercle::controles, frmCercle::branche},
+    {frmImage::fiche, frmImage::controles, frmImage::branche},
+    {frmLegend::fiche, frmLegend::controles, frmLegend::branche},
+    {frmaltazsuivi::fiche, frmaltazsuivi::controles, frmaltazsuivi::branche},
+    {Frmnotes::fiche, Frmnotes::controles, Frmnotes::branche},
+    {frmaide::fiche, frmaide::controles, frmaide::branche},
+    {frmcopyright::fiche, frmcopyright::controles, frmcopyright::branche},
+};
 
 #define VARIABLE(module, nom) shell::nomme(#nom, module::nom)
 
@@ -210,7 +191,21 @@ std::vector<shell::variable> variables() {
 
 } // namespace
 
-void construit() { tout = {panneaux(), variables()}; }
+void construit() {
+    if (tout.variables.empty())
+        tout.variables = variables();
+    for (const auto& v : tout.variables)
+        v.remet();
+    plateforme::imagesboutons = {};
+    tout.panneaux.clear();
+    for (const auto& p : pieces) {
+        p.fiche.construit(p.controles());
+        tout.panneaux.push_back(&p.fiche);
+    }
+    for (const auto& p : pieces)
+        if (p.branche)
+            p.branche();
+}
 
 const shell::registre& registre() { return tout; }
 

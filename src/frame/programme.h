@@ -5,8 +5,9 @@
 
 namespace programme {
 
-/// Puts all panels together in their design state and all program-wide variables at their first values. The
-/// machine must be installed (`plateforme::courante`).
+/// Puts all panels together in their design state, with their private variables, and all program-wide
+/// variables at their first values, as often as it is called. The machine must be installed
+/// (`plateforme::courante`).
 void construit();
 
 /// What `construit` put together.

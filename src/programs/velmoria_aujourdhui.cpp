@@ -5,7 +5,7 @@
 #include "sky/horloge_equivalente.h"
 
 int main(int argc, char** argv) {
-    plateforme::horloge_equivalente horloge{plateforme::temps_universel,
+    plateforme::horloge_equivalente horloge{plateforme::temps_systeme(),
                                             [] { return int{general::decalageheure.valeur()}; }};
     return lance_sur_le_port({.nom = "velmoria-aujourdhui",
                               .role = "Pilote un télescope par le port parallèle, sous le ciel de ce soir."},

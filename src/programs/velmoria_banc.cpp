@@ -27,7 +27,7 @@ int main(int argc, char** argv) {
                                  }});
     if (const auto statut = options::lit(programme, argc, argv).statut)
         return *statut;
-    banc::horloge_banc horloge{plateforme::temps_universel,
+    banc::horloge_banc horloge{plateforme::temps_systeme(),
                                [] { return int{general::decalageheure.valeur()}; }};
     plateforme::attente_precise attente;
     banc::etabli etabli{plateforme::horloge_monotone};

@@ -2,7 +2,7 @@
 
 #include "remote/notation.h"
 #include "remote/telescope.h"
-#include "sky/horloge_equivalente.h"
+#include "sky/calendrier.h"
 
 #include <algorithm>
 #include <array>

@@ -7,7 +7,7 @@
 #pragma once
 
 #include "remote/actes.h"
-#include "sky/horloge_equivalente.h"
+#include "sky/calendrier.h"
 
 #include <cstdint>
 #include <functional>

@@ -7,6 +7,7 @@
 #include "fields/frmconfig_champs.h"
 #include "fields/frmcoord_champs.h"
 #include "fields/frminterface_champs.h"
+#include "sky/calendrier.h"
 #include "sky/conversion.h"
 #include "sky/heure.h"
 #include "sky/horloge_equivalente.h"

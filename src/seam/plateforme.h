@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <filesystem>
+#include <functional>
 #include <string>
 
 namespace plateforme {
@@ -27,6 +28,12 @@ struct instant {
     int minute = 0;
     int seconde = 0;
     int milliseconde = 0;
+};
+
+/// Where a clock that no one may set takes its time from, in milliseconds.
+struct temps {
+    std::function<std::int64_t()> universel; ///< universal time since 1970 January 1, 0 h, which may be set
+    std::function<std::int64_t()> ecoule;    ///< since some fixed instant, sleep included: nothing sets it
 };
 
 class horloge {

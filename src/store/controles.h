@@ -4,7 +4,6 @@
 #include "base/entier.h"
 #include "base/nombre.h"
 #include "seam/image.h"
-#include "seam/plateforme.h"
 #include "seam/rappel.h"
 #include "seam/toile.h"
 #include "store/panneau.h"

@@ -45,6 +45,8 @@ panneau::vie& panneau::acces() {
 
 void panneau::construit(std::vector<controle*> controles) {
     gel = false;
+    if (vie_)
+        repond(vie_->remise);
     delete vie_;
     vie_ = new vie;
     vie_->controles = std::move(controles);

@@ -13,10 +13,12 @@
 namespace shell {
 
 /// A program-wide variable or table. `lit` gives the text of its value; the place is -1 for a plain variable.
+/// `remet` puts it back to what it was when it was named.
 struct variable {
     std::string nom;
     int taille = -1; ///< entries of a table, -1 for a plain variable
     std::function<std::string(int)> lit;
+    std::function<void()> remet;
 };
 
 struct registre {
@@ -37,13 +39,14 @@ inline std::string texte_de(base::entier32 n) { return base::texte(n); }
 inline std::string texte_de(const std::string& t) { return t; }
 inline std::string texte_de(base::booleen16 b) { return std::to_string(b.valeur()); }
 
-template <class T> variable nomme(std::string nom, const T& v) {
-    return {std::move(nom), -1, [&v](int) { return texte_de(v); }};
+template <class T> variable nomme(std::string nom, T& v) {
+    return {std::move(nom), -1, [&v](int) { return texte_de(v); }, [&v, premiere = v] { v = premiere; }};
 }
 
-template <class T, std::size_t N> variable nomme(std::string nom, const std::array<T, N>& table) {
+template <class T, std::size_t N> variable nomme(std::string nom, std::array<T, N>& table) {
     return {std::move(nom), static_cast<int>(N),
-            [&table](int i) { return texte_de(table[static_cast<std::size_t>(i)]); }};
+            [&table](int i) { return texte_de(table[static_cast<std::size_t>(i)]); },
+            [&table, premiere = table] { table = premiere; }};
 }
 
 } // namespace shell

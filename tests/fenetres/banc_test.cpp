@@ -23,7 +23,7 @@ struct machine_du_banc {
     int arret = -1; // the stop is pressed at the end of the yield after this one
     banc::etabli etabli{[this] { return maintenant; }};
     // 2026 August 15, 20 h
-    banc::horloge_banc civile{[] { return 1'786'824'000'000; },
+    banc::horloge_banc civile{{[] { return 1'786'824'000'000; }, [] { return 0; }},
                               [] { return int{general::decalageheure.valeur()}; }};
 
     void attend(std::int64_t ns) {

@@ -192,7 +192,7 @@ TEST_F(genres, a_photograph_too_large_for_qt_is_reduced_while_it_is_read) {
     grande.fill(Qt::red);
     grande.setDotsPerMeterX(20000);
     ASSERT_TRUE(grande.save(QString::fromStdString(chemin)));
-    const auto photo = plateforme::courante.vue->charge_image(chemin);
+    const auto photo = shell::vue_courante->charge_image(chemin);
     EXPECT_EQ(photo, (plateforme::image{photo.numero, 6000, 6000, 508}));
     dessin_bouton.image(photo);
     EXPECT_GT(le<QWidget>("dessin")->grab().toImage().pixelColor(0, 0).red(), 250);

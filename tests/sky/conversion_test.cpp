@@ -4,10 +4,13 @@
 #include "fields/frmcoord_champs.h"
 #include "sky/affichage.h"
 #include "sky/almanach.h"
+#include "sky/calendrier.h"
 #include "sky/conversion.h"
+#include "sky/horloge_equivalente.h"
 #include "sky/math.h"
 #include "sky/temps_sideral.h"
 
+#include <algorithm>
 #include <cmath>
 #include <fstream>
 #include <sstream>
@@ -33,8 +36,8 @@ double ecart(double az, double alt) {
     return std::hypot(daz, general::posalt - alt * 3600);
 }
 
-std::vector<std::vector<std::string>> references() {
-    std::ifstream f{std::string{VELMORIA_ESSAIS} + "/sky/references_horizontales.csv"};
+std::vector<std::vector<std::string>> references(const std::string& nom) {
+    std::ifstream f{std::string{VELMORIA_ESSAIS} + "/sky/" + nom};
     std::vector<std::vector<std::string>> toutes;
     std::string ligne;
     std::getline(f, ligne); // the source
@@ -48,25 +51,53 @@ std::vector<std::vector<std::string>> references() {
     return toutes;
 }
 
+// Sets date, universal time, site and object, the first columns of both tables.
+void pose(const std::vector<std::string>& r) {
+    frmcoord::cbannee.position(std::stoi(r[0]) - 2000);
+    frmcoord::cbmois.position(std::stoi(r[1]) - 1);
+    frmcoord::cbjour.position(std::stoi(r[2]) - 1);
+    shell::champ_texte* const champs[] = {
+        &frmcoord::txth,       &frmcoord::txtmin,     &frmcoord::txts,       &frmcoord::txtms,
+        &frmconfig::txtdegre,  &frmconfig::txtmin,    &frmconfig::txtlatdeg, &frmconfig::txtlatmin,
+        &frmconfig::Txtad_h,   &frmconfig::txtad_min, &frmconfig::txtsign,   &frmconfig::txtdec_deg,
+        &frmconfig::txtdec_min};
+    for (std::size_t i = 0; i < std::size(champs); ++i)
+        champs[i]->ecrit(r[3 + i]);
+    general::lit_almanach();
+}
+
+// Where the stars of an evening to come truly stand, and where the equivalent night has the telescope look.
+TEST(conversion, etoiles_du_soir) {
+    const machine m;
+    frmcoord::fiche.charge();
+    std::vector<double> ecarts;
+    for (auto r : references("etoiles_du_soir.csv")) {
+        ASSERT_EQ(r.size(), 19u);
+        plateforme::instant soir{std::stoi(r[0]), std::stoi(r[1]), std::stoi(r[2]), std::stoi(r[3]),
+                                 std::stoi(r[4])};
+        const auto d = plateforme::date_civile(plateforme::instant_equivalent(plateforme::depuis_date(soir)));
+        const int n[] = {d.annee, d.mois, d.jour, d.heure, d.minute, d.seconde, d.milliseconde};
+        for (std::size_t i = 0; i < std::size(n); ++i)
+            r[i] = std::to_string(n[i]);
+        pose(r);
+        general::calcul_altaz();
+        ecarts.push_back(ecart(std::stod(r[16]), std::stod(r[17])) / 60);
+        EXPECT_LT(ecarts.back(), 15) << testing::PrintToString(r);
+    }
+    ASSERT_EQ(ecarts.size(), 30u);
+    std::nth_element(ecarts.begin(), ecarts.begin() + 15, ecarts.end());
+    EXPECT_LT(ecarts[15], 10);
+}
+
 TEST(conversion, table_de_reference) {
     const machine m;
-    const auto toutes = references();
+    const auto toutes = references("references_horizontales.csv");
     ASSERT_GT(toutes.size(), 100u);
     frmcoord::fiche.charge();
     for (const auto& r : toutes) {
         ASSERT_EQ(r.size(), 21u);
-        frmcoord::cbannee.position(std::stoi(r[0]) - 2000);
-        frmcoord::cbmois.position(std::stoi(r[1]) - 1);
-        frmcoord::cbjour.position(std::stoi(r[2]) - 1);
-        shell::champ_texte* const champs[] = {
-            &frmcoord::txth,       &frmcoord::txtmin,     &frmcoord::txts,       &frmcoord::txtms,
-            &frmconfig::txtdegre,  &frmconfig::txtmin,    &frmconfig::txtlatdeg, &frmconfig::txtlatmin,
-            &frmconfig::Txtad_h,   &frmconfig::txtad_min, &frmconfig::txtsign,   &frmconfig::txtdec_deg,
-            &frmconfig::txtdec_min};
-        for (std::size_t i = 0; i < std::size(champs); ++i)
-            champs[i]->ecrit(r[3 + i]);
+        pose(r);
         general::ecartaz = general::ecartalt = 7;
-        general::lit_almanach();
         EXPECT_EQ(frmcoord::txtessai.lit(), r[16]);
         general::calcul_altaz();
         EXPECT_LT(ecart(std::stod(r[17]), std::stod(r[18])), 2) << testing::PrintToString(r);

@@ -7,6 +7,8 @@
 #include "fields/frmconfig_champs.h"
 #include "fields/frmcoord_champs.h"
 #include "fields/frmequapilot_champs.h"
+#include "sky/calendrier.h"
+#include "sky/horloge_equivalente.h"
 #include "sky/temps_sideral.h"
 #include "tracking/affichage_suivi.h"
 #include "tracking/etat_suivi.h"
@@ -139,6 +141,25 @@ TEST_F(tic_suivi, reports) {
         EXPECT_NEAR(tracking::sommeaz, c.somme, 1e-9) << c.quoi;
         EXPECT_NEAR(tracking::sommealt, c.somme, 1e-9) << c.quoi;
     }
+}
+
+// The equivalent clock has asked the computer's once: setting that moves nothing, only time does.
+TEST_F(tic_suivi, saut_de_l_horloge) {
+    std::int64_t civil = plateforme::depuis_date({.annee = 2026, .mois = 8, .jour = 15, .heure = 20});
+    std::int64_t ecoule = 0;
+    plateforme::horloge_equivalente horloge{{[&] { return civil; }, [&] { return ecoule; }},
+                                            [] { return 2; }};
+    plateforme::courante.horloge = &horloge;
+    frmaltazsuivi::cmdcalcul.clic();
+    monture.zero();
+    for (const int secondes : {90, 3600, -7200}) {
+        civil += secondes * 1000;
+        tracking::tic();
+        EXPECT_EQ(monture.compte(), banc::impulsions{}) << secondes;
+    }
+    ecoule += 90'000;
+    tracking::tic();
+    EXPECT_NE(monture.compte(), banc::impulsions{});
 }
 
 // Steps of 40 arcseconds: beyond 100 degrees the way is the other one around.

@@ -18,6 +18,7 @@ import almanach  # noqa: E402
 import catalogues  # noqa: E402
 import champs  # noqa: E402
 import nuits  # noqa: E402
+import etoiles_du_soir  # noqa: E402
 import references_horizontales  # noqa: E402
 
 OBJETS = ["messier.cat", "ic.cat"] + [f"ngc{b}.cat" for b in range(8)]
@@ -78,7 +79,8 @@ class Livre(unittest.TestCase):
             for nom in faits:
                 self.assertEqual((fait / nom).read_bytes(), (DONNEES / nom).read_bytes(), nom)
         self.assertEqual({p.relative_to(DONNEES) for m in ("*.cat", "date/*/*/*") for p in DONNEES.glob(m)}, faits)
-        self.assertEqual(references_horizontales.table(), references_horizontales.SORTIE.read_text("ascii"))
+        for outil in (references_horizontales, etoiles_du_soir):
+            self.assertEqual(outil.table(), outil.SORTIE.read_text("ascii"))
         self.assertEqual(nuits.texte_ephemerides(), nuits.EPHEMERIDES.read_text("utf-8"))
 
     def test_vues(self):

@@ -1,4 +1,4 @@
-// The computer's civil clock, local time.
+// The computer's clocks: civil time, and the time since it was started.
 #pragma once
 
 #include "seam/plateforme.h"
@@ -7,11 +7,14 @@
 
 namespace plateforme {
 
-/// The present instant, milliseconds of universal time since 1970 January 1, 0 h.
-inline std::int64_t temps_universel() {
+inline std::int64_t millisecondes(clockid_t horloge) {
     timespec t{};
-    clock_gettime(CLOCK_REALTIME, &t);
+    clock_gettime(horloge, &t);
     return std::int64_t{t.tv_sec} * 1000 + t.tv_nsec / 1'000'000;
+}
+
+inline temps temps_systeme() {
+    return {[] { return millisecondes(CLOCK_REALTIME); }, [] { return millisecondes(CLOCK_BOOTTIME); }};
 }
 
 class horloge_systeme final : public horloge {

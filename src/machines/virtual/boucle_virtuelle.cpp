@@ -1,6 +1,6 @@
 #include "machines/virtual/boucle_virtuelle.h"
 
-#include "sky/horloge_equivalente.h"
+#include "sky/calendrier.h"
 
 #include <algorithm>
 

@@ -3,7 +3,6 @@
 #include "base/fichier.h"
 #include "base/nombre.h"
 #include "base/octets.h"
-#include "bench/horloge_banc.h"
 #include "bench/unites.h"
 #include "frame/programme.h"
 #include "machines/virtual/actes.h"
@@ -37,7 +36,7 @@ std::int64_t duree(const std::string& s) {
 }
 
 instant date_et_heure(const std::string& s) {
-    if (const auto i = banc::lit_date(s))
+    if (const auto i = lit_date(s))
         return *i;
     throw ligne_incomprise{"une date et une heure étaient attendues (2001-08-15 22:00:00.000) : \"" + s +
                            "\""};

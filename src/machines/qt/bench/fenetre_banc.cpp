@@ -212,7 +212,7 @@ QWidget* fenetre_banc::fait_horloge() {
     auto* regle = bouton("regle", "Régler");
     auto* revient = bouton("cette_nuit", "Cette nuit");
     const auto met_a_l_heure = [this] {
-        const auto i = lit_date(date_->text().trimmed().toStdString());
+        const auto i = plateforme::lit_date(date_->text().trimmed().toStdString());
         if (i)
             horloge_.regle(*i);
         else
