@@ -7,6 +7,7 @@
 #include "machines/qt/bench/composition.h"
 #include "machines/qt/bench/fenetre_banc.h"
 #include "machines/qt/guichet.h"
+#include "mesure.h"
 #include "sky/heure.h"
 
 #include <QCoreApplication>
@@ -25,19 +26,11 @@
 
 namespace {
 
-using horloge_mono = std::chrono::steady_clock;
+using mesure::mediane;
+using horloge_mono = mesure::montre;
 
 constexpr int port_tcp = 14032;
 constexpr int repetitions = 7;
-
-double ecoule(horloge_mono::time_point debut) {
-    return std::chrono::duration<double>(horloge_mono::now() - debut).count();
-}
-
-double mediane(std::vector<double> v) {
-    std::sort(v.begin(), v.end());
-    return v[v.size() / 2];
-}
 
 // A client on a thread of its own, as another process would be: so many commands at once, so often.
 class client {
@@ -61,7 +54,7 @@ class client {
     client& operator=(const client&) = delete;
 
     double plus_lente_ms() const { return plus_lente_; }
-    double par_seconde() const { return static_cast<double>(recues_) / ecoule(debut_); }
+    double par_seconde() const { return static_cast<double>(recues_) / mesure::secondes_depuis(debut_); }
 
   private:
     void demande(int commandes, std::chrono::milliseconds toutes_les) {
@@ -83,7 +76,7 @@ class client {
                 attendues -= static_cast<int>(n);
                 recues_ += n;
             }
-            plus_lente_ = std::max(plus_lente_, ecoule(envoi) * 1e3);
+            plus_lente_ = std::max(plus_lente_, mesure::secondes_depuis(envoi) * 1e3);
         }
     }
 
@@ -102,7 +95,7 @@ double jog(banc::port_simule& port, int compte, int ms) {
     const auto e = port.total_ecritures();
     const auto debut = horloge_mono::now();
     frmequapilot::cmdad.clic();
-    return static_cast<double>(port.total_ecritures() - e) / 2 / ecoule(debut);
+    return static_cast<double>(port.total_ecritures() - e) / 2 / mesure::secondes_depuis(debut);
 }
 
 long pages() {
@@ -160,7 +153,7 @@ int main(int argc, char** argv) {
     frminterface::barchoix_boutons(1).clic();
     frminterface::barequa_boutons(3).clic();
     const auto debut = horloge_mono::now();
-    while (ecoule(debut) < 0.5) // everything painted
+    while (mesure::secondes_depuis(debut) < 0.5) // everything painted
         QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
     compare(etabli.port(), "jog, compte 0", 0);
     compare(etabli.port(), "jog, demi-pas de 1 ms", 33332);

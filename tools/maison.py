@@ -1,7 +1,8 @@
 #!/usr/bin/python3
 """The house's rule: an include goes down the list of folders, never up, and never round; Qt stays in machines/qt.
 
-Checked beside it: each control that a `*_champs.h` declares stands in the list that its panel hands to the store.
+Checked beside it: a source includes its own header first, which shows that the header compiles alone; each control that
+a `*_champs.h` declares stands in the list that its panel hands to the store.
 """
 
 import pathlib
@@ -56,6 +57,9 @@ def fautes_de(fichier, texte, inclusions):
             yield f"{lieu}: {cible} stands above"
         if cible.startswith(QT) and not fichier.startswith((QT, "programs/")):
             yield f"{lieu}: {cible} belongs to the windows"
+    sien = fichier.removesuffix(".cpp") + ".h"
+    if fichier.endswith(".cpp") and (SOURCES / sien).is_file() and inclusions.get(fichier, [None])[0] != sien:
+        yield f"src/{fichier}: does not include {sien} first"
     if fichier.endswith("_champs.h"):
         yield from controles_oublies(fichier, texte)
 

@@ -17,7 +17,7 @@ import sys
 RACINE = pathlib.Path(__file__).resolve().parent.parent
 COPIE = RACINE / "build/mutants/arbre"
 OBJETS = RACINE / "build/mutants/objets"
-DOSSIERS = ["sky", "drive", "settings", "catalogue", "piloting", "pointing", "slewing", "tracking", "chart", "frame", "store"]
+DOSSIERS = ["sky", "remote", "drive", "settings", "catalogue", "piloting", "pointing", "slewing", "tracking", "chart", "frame", "store"]
 ESSAIS = "^(scenarios|essais_)"
 SANS = "^essais_(fenetres|linux|banc|singe)"  # real windows, real waits, the monkey
 

@@ -120,10 +120,10 @@ void fixesens() {
         sensplus = bitsens == (a == &azimut ? azplus : altplus);
 }
 
-entier16 commande_du_sens(bool altitude, bool leve) {
+entier16 commande_du_sens(bool en_altitude, bool leve) {
     lit_inversion();
-    const bool impair = leve != static_cast<bool>(altitude ? invalt : invaz);
-    return entier16{(altitude ? 3 : 1) + (impair ? 0 : 1)};
+    const bool impair = leve != static_cast<bool>(en_altitude ? invalt : invaz);
+    return entier16{(en_altitude ? 3 : 1) + (impair ? 0 : 1)};
 }
 
 void port_a_la_raquette() {

@@ -13,7 +13,7 @@ void fixesens();
 
 /// The jog command (1 to 4) that moves an axis, altitude or azimuth, with its direction line raised or low,
 /// by the inversion read as `fixesens` reads it.
-entier16 commande_du_sens(bool altitude, bool leve);
+entier16 commande_du_sens(bool en_altitude, bool leve);
 
 /// Sets `bitsens`, `bitpas` for a slew, without inversion. Its senses are opposite to those of `fixesens`:
 /// each keeps its own table.

@@ -7,17 +7,15 @@ cd "$(dirname "$0")/../.."
 cmake -S . -B build/fuzz -G Ninja -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=Debug '-DCMAKE_CXX_FLAGS_DEBUG=-O1 -g1' \
     -DVELMORIA_SANITIZERS=address,undefined -DVELMORIA_FUZZ=ON -DVELMORIA_TESTS=OFF >/dev/null
 cmake --build build/fuzz --target fuzz -j "$(nproc)" >/dev/null
-mkdir -p build/fuzz/trouve
 statut=0
-for cible in reglages notes catalogues image scenario planetarium; do
+for cible in reglages notes catalogues scenario planetarium; do
     depart=build/fuzz/depart/$cible
-    mkdir -p "$depart" "build/fuzz/corpus/$cible"
+    mkdir -p "$depart" "build/fuzz/corpus/$cible" build/fuzz/trouve
     find tools/fuzz/corpus -name "$cible-*" -exec cp -t "$depart" {} +
     case $cible in
     reglages) for f in data/*.ini; do { printf 001234567 && cat "$f"; } >"$depart/${f##*/}"; done ;;
     notes) cp data/notes.txt "$depart" ;;
     catalogues) for f in data/*.cat; do head -n 30 "$f" >"$depart/${f##*/}"; done ;;
-    image) for f in data/*/*.gif data/*/*.jpg; do head -c 1000 "$f" >"$depart/${f##*/}"; done ;;
     planetarium) sed -n 's/^.*planetarium //p' tests/scenarios/planetarium.scn >"$depart/commandes" ;;
     scenario) cp tests/scenarios/*.scn "$depart" ;;
     esac

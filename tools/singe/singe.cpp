@@ -6,7 +6,6 @@
 #include "chart/astres_carte.h"
 #include "drive/position.h"
 #include "fields/frmaltazsuivi_champs.h"
-#include "fields/frmconfig_champs.h"
 #include "fields/frmequapilot_champs.h"
 #include "fields/frminterface_champs.h"
 #include "frame/programme.h"
@@ -148,16 +147,16 @@ class personne {
   private:
     // Keys that the chart knows or not; presses near a star, near an object or anywhere.
     std::string sur_surface() {
+        static constexpr const char* avec[] = {"", " maj", " ctrl", " maj ctrl"};
+        static constexpr const char* boutons[] = {" gauche ", " droit ", " droit "};
         if (une_fois_sur(4))
-            return "touche frmCercle " + to_string(une_fois_sur(4) ? entre(27, 120) : entre(33, 46)) +
-                   (une_fois_sur(4) ? " maj" : "") + (une_fois_sur(4) ? " ctrl" : "");
+            return "touche frmCercle " + to_string(entre(27, une_fois_sur(4) ? 120 : 46)) + parmi(avec);
         const auto& astre = une_fois_sur(2) ? parmi(chart::astres.etoiles) : parmi(chart::astres.objets);
         const auto pres = [this](double x) {
-            return " " +
-                   to_string(x > 0 && x < 9000 ? static_cast<int>(x) + entre(-120, 120) : entre(0, 9150));
+            return to_string(x > 0 && x < 9000 ? static_cast<int>(x) + entre(-120, 120) : entre(0, 9150));
         };
         const auto x = pres(astre.x);
-        return "souris frmCercle" + std::string{une_fois_sur(3) ? " gauche" : " droit"} + x + pres(astre.y);
+        return "souris frmCercle" + (parmi(boutons) + x) + " " + pres(astre.y);
     }
 
     std::string acte_sur(const shell::controle& c) {
@@ -190,7 +189,7 @@ class personne {
     }
 
     // Seldom what happens around the program, else an act on what is on screen. What ends the program too
-    // often is put off: leaving, taking an object where none is selected, a year without almanac.
+    // often is put off: leaving, an object where none may be selected, a year without almanac.
     std::string acte() {
         static constexpr int codes[] = {2, 3, 9, 10, 11, 13, 15, 18, 19, 26, 137, 141, 143};
         if (une_fois_sur(24))
@@ -209,9 +208,8 @@ class personne {
         if (choix.empty())
             return "avance 1ms";
         const auto& c = *parmi(choix);
-        const bool mortel = c.nom() == "Quitter" || c.nom() == "cbannee" ||
-                            (c.nom() == "cmdchoix" && frmconfig::lbObjets.regarde().position < 0);
-        return mortel && !une_fois_sur(30) ? "avance 1ms" : acte_sur(c);
+        const bool mortel = c.nom() == "Quitter" || c.nom() == "cbannee" || c.nom() == "cmdchoix";
+        return mortel && !une_fois_sur(10) ? "avance 1ms" : acte_sur(c);
     }
 
     // Every motion must have what ends it: the stops on screen, that of the slew to come, the paddle

@@ -14,7 +14,7 @@ class vue_qt final : public shell::vue {
     void controle_change(shell::controle& c, shell::aspect a) override;
     shell::entree* ouvre_menu(shell::entree& racine, const shell::entree* defaut) override;
     void message(const std::string& texte) override;
-    image charge_image(const std::filesystem::path& chemin) override;
+    plateforme::image charge_image(const std::filesystem::path& chemin) override;
 
     /// The main frame, if it has been shown.
     QWidget* principale() const;
