@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::size_t longueur_maximum = 64;
 
-std::string fini(std::string texte) { return texte + "#"; }
+std::string fini(const std::string& texte) { return texte + "#"; }
 
 // ---- reads
 

@@ -46,14 +46,14 @@ place tourne(place p, double avant, double bascule, double apres) {
 
 } // namespace
 
-place vers_la_date(place p, std::int64_t date) {
+place vers_la_date(place de_j2000, std::int64_t date) {
     const precession q{siecles(date)};
-    return tourne(p, q.zeta, q.theta, q.z);
+    return tourne(de_j2000, q.zeta, q.theta, q.z);
 }
 
-place vers_j2000(place p, std::int64_t date) {
+place vers_j2000(place de_la_date, std::int64_t date) {
     const precession q{siecles(date)};
-    return tourne(p, -q.z, -q.theta, -q.zeta);
+    return tourne(de_la_date, -q.z, -q.theta, -q.zeta);
 }
 
 double sideral_greenwich(std::int64_t date) {

@@ -18,7 +18,7 @@ struct place {
 
 /// A place of the mean equator and equinox of J2000 for those of a date, and back. Right ascension comes out
 /// from 0 to 24, declination from -90 to 90.
-place vers_la_date(place j2000, std::int64_t date);
+place vers_la_date(place de_j2000, std::int64_t date);
 place vers_j2000(place de_la_date, std::int64_t date);
 
 /// Greenwich mean sidereal time, seconds, 0 to 86400.
