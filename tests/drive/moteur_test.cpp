@@ -13,11 +13,15 @@ class port_note final : public plateforme::port {
   public:
     explicit port_note(banc::port_simule& p) : port_(p) {}
     void ecrit(int adresse, std::uint8_t valeur) override {
-        journal += "E" + std::to_string(adresse) + "=" + std::to_string(valeur) + " ";
+        journal.append("E")
+            .append(std::to_string(adresse))
+            .append("=")
+            .append(std::to_string(valeur))
+            .append(" ");
         port_.ecrit(adresse, valeur);
     }
     std::uint8_t lit(int adresse) override {
-        journal += "L" + std::to_string(adresse) + " ";
+        journal.append("L").append(std::to_string(adresse)).append(" ");
         return port_.lit(adresse);
     }
     std::string journal;
