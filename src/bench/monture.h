@@ -2,6 +2,7 @@
 #pragma once
 
 #include "bench/cadence.h"
+#include "seam/port.h"
 
 #include <array>
 #include <cstdint>
@@ -34,10 +35,10 @@ class monture {
         const unsigned lignes = donnees;
         const unsigned montee = lignes & ~lignes_;
         lignes_ = lignes;
-        if (montee & pas_az)
-            ++totaux_[(lignes & sens_az) ? 1 : 0];
-        if (montee & pas_alt)
-            ++totaux_[(lignes & sens_alt) ? 3 : 2];
+        if (montee & plateforme::ligne_pas_az)
+            ++totaux_[(lignes & plateforme::ligne_sens_az) ? 1 : 0];
+        if (montee & plateforme::ligne_pas_alt)
+            ++totaux_[(lignes & plateforme::ligne_sens_alt) ? 3 : 2];
     }
 
     /// Edges since the start or the last `zero`.
@@ -57,7 +58,6 @@ class monture {
     double cadence(axe a, std::int64_t maintenant_ns);
 
   private:
-    static constexpr unsigned pas_alt = 1, sens_alt = 2, pas_az = 4, sens_az = 8;
     using comptes = std::array<std::uint64_t, 4>; // az0, az8, alt0, alt2
 
     unsigned lignes_ = 0;

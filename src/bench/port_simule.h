@@ -29,7 +29,7 @@ class temoin {
 /// what the four lines read, and pull lines of 888 up.
 class port_simule final : public plateforme::port {
   public:
-    static constexpr int sans_touche = 11;
+    static constexpr int sans_touche = plateforme::controle_raquette;
     static constexpr std::size_t memoire = 65536; // writes remembered, a power of two
 
     /// `m` must outlive the port.

@@ -2,23 +2,13 @@
 
 #include "base/nombre.h"
 #include "base/valeurs.h"
+#include "drive/axe.h"
 #include "drive/position.h"
 #include "seam/plateforme.h"
 
 namespace cmd_moteur {
 
-using plateforme::Out32;
-using plateforme::registre_donnees;
-
 namespace {
-
-struct axe {
-    int pas;  // its step line
-    int sens; // its direction line
-};
-constexpr int controle_raquette = 11;
-constexpr axe azimut{4, 8};
-constexpr axe altitude{1, 2};
 
 // The axis a command moves, or none.
 const axe* axe_de(entier16 commande) {
@@ -32,8 +22,8 @@ const axe* axe_de(entier16 commande) {
 bool impaire(entier16 commande) { return commande == 1 || commande == 3; }
 
 // Direction and step of a command; `leve`: the command raises the direction line.
-void dirige(bool leve) {
-    if (const axe* a = axe_de(cmdsens)) {
+void dirige(const axe* a, bool leve) {
+    if (a) {
         bitsens = leve ? a->sens : 0;
         bitpas = a->pas;
     } else if (cmdsens == 0) {
@@ -46,27 +36,14 @@ void prend_vitesse(const std::array<entier32, 10>& table, const char* nom) {
     const axe* a = axe_de(cmdsens);
     if (!a)
         return;
-    const entier16 classe = a == &azimut ? classevitaz : classevitalt;
-    if (classe < 0 || classe > 4)
-        base::fatale(base::cause::indice, std::string{nom} + ", classe " + base::texte(classe));
-    tempopas = table[static_cast<std::size_t>(classe.valeur()) + (a == &azimut ? 0U : 5U)];
-}
-
-// n + 1 passes of a loop counted from 0 to n inclusive.
-void compte_jusqu_a(entier32 n, std::int64_t ns) {
-    if (n >= 0)
-        plateforme::courante.boucle->attend((std::int64_t{n.valeur()} + 1) * ns);
-}
-
-void demi_pas(entier16 valeur) {
-    Out32(registre_donnees, valeur);
-    attente(tempopas);
-    plateforme::cede();
+    if (a->classe < 0 || a->classe > 4)
+        base::fatale(base::cause::indice, std::string{nom} + ", classe " + base::texte(a->classe));
+    tempopas = table[static_cast<std::size_t>(a->classe.valeur()) + a->rangee];
 }
 
 void pas() {
-    demi_pas(bitsens);
-    demi_pas(bitsens + bitpas);
+    demi_pas(bitsens, attente, tempopas);
+    demi_pas(bitsens + bitpas, attente, tempopas);
 }
 
 void lit_inversion() {
@@ -85,6 +62,8 @@ struct jog_en_cours {
     jog_en_cours& operator=(const jog_en_cours&) = delete;
 };
 
+void compte(const axe& a) { a.compte += sensplus ? entier32{1} : entier32{-1}; }
+
 void jog(void (*vitesse)(), void (*compte)()) {
     const jog_en_cours ici;
     fixesens();
@@ -98,14 +77,11 @@ void jog(void (*vitesse)(), void (*compte)()) {
     }
 }
 
-void rafale(double ecart, entier16 plus, entier16 moins, entier16 nombre, const entier32& tempo, int bit) {
-    bitsens = ecart > 0 ? plus : moins;
+void rafale(const axe& a, double ecart, entier16 nombre, const entier32& tempo) {
+    bitsens = ecart > 0 ? a.plus : a.moins;
     for (entier32 i = 1; i <= entier32{nombre}; ++i) {
-        for (const int ligne : {0, bit}) {
-            Out32(registre_donnees, bitsens + entier16{ligne});
-            compte_jusqu_a(tempo, plateforme::ns_par_compte_entier);
-            plateforme::cede();
-        }
+        demi_pas(bitsens, attenterafale, tempo);
+        demi_pas(bitsens + entier16{a.pas}, attenterafale, tempo);
     }
 }
 
@@ -115,9 +91,9 @@ void fixesens() {
     lit_inversion();
     sensplus = false;
     const axe* a = axe_de(cmdsens);
-    dirige(impaire(cmdsens) != static_cast<bool>(a == &azimut ? invaz : invalt));
+    dirige(a, a && a->inverse != impaire(cmdsens));
     if (a)
-        sensplus = bitsens == (a == &azimut ? azplus : altplus);
+        sensplus = bitsens == a->plus;
 }
 
 entier16 commande_du_sens(bool en_altitude, bool leve) {
@@ -127,24 +103,18 @@ entier16 commande_du_sens(bool en_altitude, bool leve) {
 }
 
 void port_a_la_raquette() {
-    Out32(plateforme::registre_controle, controle_raquette);
-    Out32(registre_donnees, 0);
+    plateforme::Out32(plateforme::registre_controle, plateforme::controle_raquette);
+    plateforme::Out32(plateforme::registre_donnees, 0);
     baselinepaddle = 0;
 }
 
-void fixesensdirect() { dirige(!impaire(cmdsens)); }
+void fixesensdirect() { dirige(axe_de(cmdsens), !impaire(cmdsens)); }
 
 void tempoaltaz() { prend_vitesse(vitessealtaz, "vitessealtaz"); }
 void tempoequa() { prend_vitesse(vitesseequa, "vitesseequa"); }
 
-void comptepasaz() { compteaz += sensplus ? entier32{1} : entier32{-1}; }
-void comptepasalt() { comptealt += sensplus ? entier32{1} : entier32{-1}; }
-
-void attente(entier32 n) { compte_jusqu_a(n, plateforme::ns_par_compte); }
-
-void attentepointage(entier32 n) {
-    plateforme::courante.boucle->attend(std::int64_t{n.valeur()} * plateforme::ns_par_compte);
-}
+void comptepasaz() { compte(azimut); }
+void comptepasalt() { compte(altitude); }
 
 void jogequa_az() { jog(tempoequa, nullptr); }
 void jogequa_alt() { jog(tempoequa, nullptr); }
@@ -162,11 +132,8 @@ void pasequa() {
     }
 }
 
-void rafaleaz() { rafale(general::ecartaz, azplus, azmoins, nbpasaz, tempoaz, azimut.pas); }
+void rafaleaz() { rafale(azimut, general::ecartaz, nbpasaz, tempoaz); }
 
-void rafalealt() {
-    rafale(general::ecartalt, altplus, altmoins, entier16{nbpasalt, {"pas en altitude"}}, tempoalt,
-           altitude.pas);
-}
+void rafalealt() { rafale(altitude, general::ecartalt, entier16{nbpasalt, {"pas en altitude"}}, tempoalt); }
 
 } // namespace cmd_moteur

@@ -3,6 +3,9 @@
 #pragma once
 
 #include "drive/etat_moteur.h"
+#include "seam/plateforme.h"
+
+#include <cstdint>
 
 namespace cmd_moteur {
 
@@ -29,11 +32,28 @@ void comptepasaz();
 void comptepasalt();
 
 /// The counted delay of n + 1 counts of the general loop (`ns_par_compte`); none for a negative n.
-void attente(entier32 n);
+inline void attente(entier32 n) {
+    plateforme::courante.boucle->attend((std::int64_t{n.valeur()} + 1) * plateforme::ns_par_compte);
+}
 
 /// The counted delay of the slews: n counts of the general loop, one less than `attente`; none for 0 and
 /// less.
-void attentepointage(entier32 n);
+inline void attentepointage(entier32 n) {
+    plateforme::courante.boucle->attend(std::int64_t{n.valeur()} * plateforme::ns_par_compte);
+}
+
+/// That of the bursts: n + 1 counts of the plain integer loop (`ns_par_compte_entier`).
+inline void attenterafale(entier32 n) {
+    plateforme::courante.boucle->attend((std::int64_t{n.valeur()} + 1) * plateforme::ns_par_compte_entier);
+}
+
+/// Half a pulse, by which every pulse leaves: the value on the data register, one of the delays above with
+/// its count, a yield.
+inline void demi_pas(entier16 valeur, void (*delai)(entier32), entier32 n) {
+    plateforme::Out32(plateforme::registre_donnees, valeur);
+    delai(n);
+    plateforme::cede();
+}
 
 /// Jogs: run until `cmdsens` is 0 at the head of the loop. The caller sets `cmdsens` first. Those of the
 /// alt-azimuth mount count their steps.

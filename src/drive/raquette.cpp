@@ -1,5 +1,6 @@
 #include "drive/raquette.h"
 
+#include "drive/axe.h"
 #include "drive/cmd_moteur.h"
 #include "fields/frmraquette_champs.h"
 #include "seam/plateforme.h"
@@ -15,63 +16,58 @@ using plateforme::registre_donnees;
 
 namespace {
 
-constexpr int aucune_touche = 11;
+constexpr int aucune_touche = plateforme::controle_raquette;
 
-struct axe {
-    int pas;  // its step line
-    int sens; // its direction line
-    const entier16& plus;
+struct manette {
+    const axe& sur;
     shell::champ_coche& inversion;
     void (*boucle)();
 };
-const axe azimut{4, 8, azplus, frmraquette::chkaz, paddleaz};
-const axe altitude{1, 2, altplus, frmraquette::chkalt, paddlealt};
+const manette en_azimut{azimut, frmraquette::chkaz, paddleaz};
+const manette en_altitude{altitude, frmraquette::chkalt, paddlealt};
 
 // The opposite keys of an axis differ in one data line, 128 or 16; its speeds in the control lines.
 struct touche {
     int code;
-    const axe& sur;
+    const manette& de;
     const entier32& tempo;
     bool leve_si_cochee; // raises the direction line with the inversion box ticked, else without
 };
 const touche touches[] = {
-    {2, altitude, slotaltr, true},   {3, altitude, slotaltm, true},   {10, altitude, slotaltl, true},
-    {18, altitude, slotaltr, false}, {19, altitude, slotaltm, false}, {26, altitude, slotaltl, false},
-    {13, azimut, slotazr, true},     {9, azimut, slotazm, true},      {15, azimut, slotazl, true},
-    {141, azimut, slotazr, false},   {137, azimut, slotazm, false},   {143, azimut, slotazl, false},
+    {2, en_altitude, slotaltr, true},   {3, en_altitude, slotaltm, true},
+    {10, en_altitude, slotaltl, true},  {18, en_altitude, slotaltr, false},
+    {19, en_altitude, slotaltm, false}, {26, en_altitude, slotaltl, false},
+    {13, en_azimut, slotazr, true},     {9, en_azimut, slotazm, true},
+    {15, en_azimut, slotazl, true},     {141, en_azimut, slotazr, false},
+    {137, en_azimut, slotazm, false},   {143, en_azimut, slotazl, false},
 };
 
 void presse(const touche& t) {
-    bitsens = t.sur.inversion.coche() == t.leve_si_cochee ? t.sur.sens : 0;
-    bitpas = t.sur.pas;
+    const auto& [sur, inversion, boucle] = t.de;
+    bitsens = inversion.coche() == t.leve_si_cochee ? sur.sens : 0;
+    bitpas = sur.pas;
     tempopaddle = t.tempo;
-    if (bitsens == t.sur.plus)
+    if (bitsens == sur.plus)
         sensplus = true;
-    t.sur.boucle();
-}
-
-void demi_pas(entier16 valeur) {
-    plateforme::Out32(registre_donnees, valeur);
-    attente(tempopaddle);
-    plateforme::cede();
+    boucle();
 }
 
 // The data register is read first. What a handler changes in a yield acts at the next use.
-void boucle(double& jeu, entier32& encode, void (*compte)()) {
-    jeu = 0;
+void boucle(const axe& a, void (*compte)()) {
+    a.jeu = 0;
     entier16 v = Inp32(registre_donnees);
     v += Inp32(registre_controle);
     v -= baselinepaddle;
     while (v == codepaddle) {
-        demi_pas(bitsens);
-        demi_pas(bitsens + bitpas);
+        demi_pas(bitsens, attente, tempopaddle);
+        demi_pas(bitsens + bitpas, attente, tempopaddle);
         const entier16 d = Inp32(registre_donnees);
         const entier16 c = Inp32(registre_controle);
         baselinepaddle = bitpas + bitsens;
         v = c + d - baselinepaddle;
         compte();
-        jeu += 1.0;
-        encode += 1;
+        a.jeu += 1.0;
+        a.encode += 1;
     }
 }
 
@@ -94,7 +90,7 @@ void scruteraquette() {
         presse(*t);
 }
 
-void paddleaz() { boucle(jeucourantaz, pasencodeaz, comptepasaz); }
-void paddlealt() { boucle(jeucourantalt, pasencodealt, comptepasalt); }
+void paddleaz() { boucle(azimut, comptepasaz); }
+void paddlealt() { boucle(altitude, comptepasalt); }
 
 } // namespace cmd_moteur

@@ -36,9 +36,6 @@ using plateforme::registre_donnees;
 
 namespace {
 
-constexpr int controle_ordinateur = 1;
-constexpr int controle_libre = 0;
-
 // ---- start-up
 
 // Keeps the splash on screen for as long as the processor takes to count.
@@ -81,7 +78,7 @@ void charge() {
 // ---- modes
 
 void mode_ordinateur() {
-    Out32(registre_controle, controle_ordinateur);
+    Out32(registre_controle, plateforme::controle_ordinateur);
     Out32(registre_donnees, 0);
     Timer.marche(false);
     frmraquette::fiche.decharge();
@@ -195,7 +192,7 @@ void general_altazimutal() {
 }
 
 void quitte() {
-    Out32(registre_controle, controle_libre);
+    Out32(registre_controle, plateforme::controle_libre);
     plateforme::termine(0);
 }
 

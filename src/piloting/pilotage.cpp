@@ -24,7 +24,7 @@ void charge(const pilote& p) {
         p.reglage.champ(i).ecrit(p.table[i].reel() / comptes_par_unite);
     for (std::size_t i = 0; i < p.table.size(); ++i)
         p.reglage.barre(i).place(p.reglage.champ(i).nombre32(), {p.fichier});
-    plateforme::Out32(plateforme::registre_controle, 1);
+    plateforme::Out32(plateforme::registre_controle, plateforme::controle_ordinateur);
 }
 
 void relache_directions(const pilote& p, const shell::champ_bouton* sauf) {

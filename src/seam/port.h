@@ -2,7 +2,7 @@
 //
 //   register 888 (data, written)              register 890 (control, written)
 //   bit 0  value 1   step, altitude             1   computer mode
-//   bit 1  value 2   direction, altitude        11  paddle mode
+//   bit 1  value 2   direction, altitude        11  paddle mode; reads back so while no key is down
 //   bit 2  value 4   step, azimuth              0   released
 //   bit 3  value 8   direction, azimuth
 //
@@ -21,6 +21,15 @@ namespace plateforme {
 
 inline constexpr int registre_donnees = 888;
 inline constexpr int registre_controle = 890;
+
+inline constexpr int ligne_pas_alt = 1; ///< of the data register
+inline constexpr int ligne_sens_alt = 2;
+inline constexpr int ligne_pas_az = 4;
+inline constexpr int ligne_sens_az = 8;
+
+inline constexpr int controle_libre = 0; ///< values of the control register
+inline constexpr int controle_ordinateur = 1;
+inline constexpr int controle_raquette = 11;
 
 /// One parallel port, real or simulated. Addresses other than the two registers above are never used.
 class port {

@@ -1,22 +1,15 @@
 #include "slewing/impulsions.h"
 
 #include "drive/cmd_moteur.h"
-#include "seam/plateforme.h"
 #include "slewing/etat_pointage.h"
 
 #include <cmath>
 
 namespace pointing {
 
-namespace {
-
-void demi_pas(base::entier16 valeur) {
-    plateforme::Out32(plateforme::registre_donnees, valeur);
-    cmd_moteur::attentepointage(cmd_moteur::tempopas);
-    plateforme::cede();
-}
-
-} // namespace
+using cmd_moteur::attentepointage;
+using cmd_moteur::demi_pas;
+using cmd_moteur::tempopas;
 
 void envoie(double nombre, const base::entier16& sens, const base::entier16& pas,
             shell::champ_progression& barre, double& envoyees) {
@@ -24,8 +17,8 @@ void envoie(double nombre, const base::entier16& sens, const base::entier16& pas
     double i = 0;
     envoyees = i;
     while (!stoppointage && i <= nombre) {
-        demi_pas(sens);
-        demi_pas(sens + pas);
+        demi_pas(sens, attentepointage, tempopas);
+        demi_pas(sens + pas, attentepointage, tempopas);
         if (i != 0 && nombre != 0)
             barre.valeur(std::floor(i * 100 / nombre));
         i = i + 1;

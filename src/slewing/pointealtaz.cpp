@@ -27,8 +27,8 @@ namespace {
 constexpr double ecart_tolere = 120; // arcseconds
 constexpr double barre_pleine = 99;  // percent
 constexpr entier16 aucun_sens = 0;
-constexpr entier16 pas_azimut = 4;
-constexpr entier16 pas_altitude = 1;
+constexpr entier16 pas_azimut = plateforme::ligne_pas_az;
+constexpr entier16 pas_altitude = plateforme::ligne_pas_alt;
 
 // Rounded down, so that a small way back counts 2 and a small way forth 0.
 double compte(double distance, double angle_par_pas, const char* quoi) {

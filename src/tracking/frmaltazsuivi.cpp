@@ -23,7 +23,6 @@ using base::entier32;
 
 namespace {
 
-constexpr int controle_ordinateur = 1;
 constexpr int largeur_frheure = 6375; // twips, while tracking
 const char* const fichier = "suivialtaz.ini";
 const char* const en_marche = "Pause"; // captions of `cmdstop`
@@ -50,7 +49,7 @@ void charge() {
     tracking::suiviouvert = true;
     lit_reglages();
     general::lit_almanach();
-    plateforme::Out32(plateforme::registre_controle, controle_ordinateur);
+    plateforme::Out32(plateforme::registre_controle, plateforme::controle_ordinateur);
 }
 
 // By whatever road the panel closes, `frmconfig` takes this size, and is loaded if it was not.
