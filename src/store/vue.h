@@ -12,6 +12,9 @@ namespace shell {
 
 class entree;
 
+/// The title of a message box.
+enum class titre { programme, aucun };
+
 class vue {
   public:
     virtual ~vue() = default;
@@ -24,8 +27,8 @@ class vue {
     virtual void controle_change(controle& c, aspect a) = 0;
     /// Opens a popup and returns when it has closed: the entry chosen, or none. Runs no command itself.
     virtual entree* ouvre_menu(entree& racine, const entree* defaut) = 0;
-    /// A box with one OK button; returns when it was pressed.
-    virtual void message(const std::string& texte) = 0;
+    /// A box with one OK button; returns when it was pressed. Its title is the program's name, or nothing.
+    virtual void message(const std::string& texte, titre t = titre::programme) = 0;
     /// Loads a GIF or JPEG picture. A missing file or one that is neither is fatal, with its name.
     virtual plateforme::image charge_image(const std::filesystem::path& chemin) = 0;
 };

@@ -2,15 +2,15 @@
 
 #include "base/fatale.h"
 #include "base/fichier.h"
+#include "seam/entete_image.h"
 
 #include <QBuffer>
 #include <QDir>
 #include <QImageReader>
-#include <cmath>
 #include <cstdint>
 #include <map>
-#include <string_view>
-#include <utility>
+#include <optional>
+#include <vector>
 #include <vector>
 
 namespace plateforme::qt {
@@ -20,13 +20,6 @@ namespace {
 std::map<std::filesystem::path, int> numeros;
 std::vector<QImage> chargees;
 
-// A picture that states no density gets Qt's guess, which is the screen's.
-double densite(const QImage& i) {
-    constexpr double pouces_par_metre = 1000 / 25.4;
-    static const int supposee = QImage{1, 1, QImage::Format_RGB32}.dotsPerMeterX();
-    return i.dotsPerMeterX() == supposee ? 96 : std::round(i.dotsPerMeterX() / pouces_par_metre);
-}
-
 // With the format named and taken at its word: to let Qt guess has it load all its picture plugins.
 QImage lit(const QString& chemin, const char* format) {
     QImageReader lecteur{chemin, format};
@@ -34,29 +27,20 @@ QImage lit(const QString& chemin, const char* format) {
     return lecteur.read();
 }
 
-// The format by the first bytes, null for neither GIF nor JPEG.
-const char* format_de(std::string_view octets) {
-    return octets.starts_with("GIF") ? "gif" : octets.starts_with("\xFF\xD8\xFF") ? "jpeg" : nullptr;
-}
-
-// A picture of the data folder with the size that it says it has. One that would take more memory than Qt
-// allows is scaled down while it is read.
-std::pair<QImage, QSize> lit_donnee(const std::string& octets) {
+// A picture of the data folder, whose header said its size. One that would take more memory than Qt allows is
+// scaled down while it is read.
+QImage lit_donnee(const std::string& octets, const image& entete) {
     constexpr int cote_du_reduit = 4096;
     constexpr std::int64_t octets_par_pixel = 4;
-    const auto* format = format_de(octets);
-    if (!format)
-        return {};
     auto brut = QByteArray::fromRawData(octets.data(), static_cast<qsizetype>(octets.size()));
     QBuffer tampon{&brut};
-    QImageReader lecteur{&tampon, format};
+    QImageReader lecteur{&tampon, octets.starts_with("GIF") ? "gif" : "jpeg"};
     lecteur.setAutoDetectImageFormat(false);
-    const auto taille = lecteur.size();
+    const QSize taille{entete.largeur, entete.hauteur};
     if (octets_par_pixel * taille.width() * taille.height() > std::int64_t{QImageReader::allocationLimit()}
                                                                   << 20)
         lecteur.setScaledSize(taille.scaled(cote_du_reduit, cote_du_reduit, Qt::KeepAspectRatio));
-    auto lue = lecteur.read();
-    return {lue, lecteur.scaledSize().isValid() ? taille : lue.size()};
+    return lecteur.read();
 }
 
 QPixmap png(const QString& chemin) { return QPixmap::fromImage(lit(chemin, "png")); }
@@ -73,14 +57,16 @@ QIcon toutes_densites(const QString& souche) {
 } // namespace
 
 image charge(const std::filesystem::path& chemin) {
-    const auto [lue, taille] = lit_donnee(base::lit_fichier(chemin));
+    const auto octets = base::lit_fichier(chemin);
+    const auto entete = lit_entete(octets);
+    const auto lue = entete ? lit_donnee(octets, *entete) : QImage{};
     if (lue.isNull())
         base::fatale(base::cause::image_illisible, chemin.string());
     const auto [place, nouvelle] = numeros.try_emplace(chemin, static_cast<int>(chargees.size()) + 1);
     if (nouvelle)
         chargees.emplace_back();
     chargees[static_cast<std::size_t>(place->second - 1)] = lue;
-    return {place->second, taille.width(), taille.height(), densite(lue)};
+    return {place->second, entete->largeur, entete->hauteur, entete->ppp};
 }
 
 QPixmap pixels_de(const image& i) {

@@ -52,8 +52,10 @@ shell::entree* vue_qt::ouvre_menu(shell::entree& racine, const shell::entree* de
     return ouvre_surgissant(racine, defaut);
 }
 
-void vue_qt::message(const std::string& texte) {
-    QMessageBox boite{QMessageBox::NoIcon, "Velmoria", affiche(texte), QMessageBox::Ok, principale()};
+void vue_qt::message(const std::string& texte, titre t) {
+    // An empty title would be replaced by the program's name.
+    QMessageBox boite{QMessageBox::NoIcon, t == titre::aucun ? " " : "Velmoria", affiche(texte),
+                      QMessageBox::Ok, principale()};
     boite.setObjectName("message");
     boite.setTextFormat(Qt::PlainText);
     boite.exec();

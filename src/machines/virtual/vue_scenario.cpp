@@ -2,7 +2,7 @@
 
 #include "base/fatale.h"
 #include "base/fichier.h"
-#include "machines/virtual/entete_image.h"
+#include "seam/entete_image.h"
 #include "store/controles.h"
 
 #include <ostream>
@@ -86,7 +86,7 @@ shell::entree* vue_scenario::ouvre_menu(shell::entree& racine, const shell::entr
     return choisie;
 }
 
-void vue_scenario::message(const std::string& texte) {
+void vue_scenario::message(const std::string& texte, titre) {
     sortie_ << "message " << sur_une_ligne(texte) << '\n';
 }
 

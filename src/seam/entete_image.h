@@ -1,4 +1,5 @@
-// The size of a picture from the first bytes of its file, for a machine without a screen.
+// The size of a picture from the first bytes of its file: every machine takes it from here, so that a
+// photograph has the same measures on all.
 #pragma once
 
 #include "seam/image.h"
