@@ -51,11 +51,11 @@ course raquette(plateforme::qt::boucle_qt& boucle, banc::port_simule& port, int 
 // One jog to the right, started and stopped as an observer does, for about `ms` milliseconds.
 course jog(plateforme::qt::boucle_qt& boucle, banc::port_simule& port, int compte, int ms) {
     cmd_moteur::vitessealtaz.fill(cmd_moteur::entier32{compte});
-    QTimer::singleShot(ms, [] { frmaltazpilot::cmddstop.appuie(); });
+    QTimer::singleShot(ms, [] { frmaltazpilot::deplacement.cmddstop.appuie(); });
     const auto e = port.total_ecritures();
     const auto p = boucle.passes();
     const auto debut = montre::now();
-    frmaltazpilot::cmdad.clic();
+    frmaltazpilot::deplacement.cmdad.clic();
     return {mesure::secondes_depuis(debut), static_cast<double>(port.total_ecritures() - e) / 2,
             static_cast<double>(boucle.passes() - p)};
 }

@@ -32,7 +32,7 @@ struct banc_suivi {
         frmconfig::txtdec_deg.ecrit("20");
         frmconfig::Txtad_h.ecrit("21");
         tracking::objetchoisi = true;
-        frmaltazsuivi::txtincrement.ecrit(base::entier16{increment});
+        frmaltazsuivi::txtincrement.ecrit(base::entier32{increment});
         frmaltazsuivi::cmdcalcul.clic();
     }
 };

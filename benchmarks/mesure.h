@@ -43,7 +43,7 @@ struct vue_muette final : shell::vue {
     void repeint(shell::panneau&) override {}
     void controle_change(shell::controle&, shell::aspect) override { ++changements; }
     shell::entree* ouvre_menu(shell::entree&, const shell::entree*) override { return nullptr; }
-    void message(const std::string&) override {}
+    void message(const std::string&, shell::titre) override {}
     plateforme::image charge_image(const std::filesystem::path&) override { return {}; }
     std::int64_t changements = 0;
 };

@@ -50,7 +50,7 @@ class vue_muette final : public shell::vue {
     void repeint(shell::panneau&) override {}
     void controle_change(shell::controle&, shell::aspect) override {}
     shell::entree* ouvre_menu(shell::entree&, const shell::entree*) override { return nullptr; }
-    void message(const std::string&, plateforme::titre) override {}
+    void message(const std::string&, shell::titre) override {}
     plateforme::image charge_image(const std::filesystem::path&) override { return {1, 10, 10, 96}; }
 };
 

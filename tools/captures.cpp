@@ -71,11 +71,11 @@ void chaque_panneau(const photographe& photo) {
         p->decharge();
     }
     frmaltazpilot::fiche.montre();
-    frmaltazpilot::lblvit.clic();
+    frmaltazpilot::pied.lblvit.clic();
     photo.prend_panneau(frmaltazpilot::fiche, "frmaltazpilot-ouvert");
     frmaltazpilot::fiche.decharge();
     frmequapilot::fiche.montre();
-    frmequapilot::lblvit.clic();
+    frmequapilot::pied.lblvit.clic();
     photo.prend_panneau(frmequapilot::fiche, "frmequapilot-ouvert");
     frmequapilot::fiche.decharge();
 }
@@ -116,9 +116,9 @@ void en_mouvement(const photographe& photo, QWidget* principale, banc::fenetre_b
         banc.rafraichit();
         photo.prend(&banc, "banc");
         photo.prend(principale, "pilotage");
-        frmaltazpilot::cmddstop.clic();
+        frmaltazpilot::deplacement.cmddstop.clic();
     });
-    frmaltazpilot::cmdag.clic();
+    frmaltazpilot::deplacement.cmdag.clic();
 }
 
 } // namespace

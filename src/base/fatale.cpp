@@ -24,15 +24,13 @@ static_assert(libelles.size() == static_cast<std::size_t>(cause::ecriture_imposs
 
 } // namespace
 
-std::string lieu::devant() const {
-    if (nom.empty())
-        return {};
-    std::string s{nom};
-    if (!champ.empty())
-        s += "." + std::string{champ};
-    if (indice >= 0)
-        s += "(" + std::to_string(indice) + ")";
-    return s + " : ";
+std::string lieu::nom() const {
+    std::string s{nom_};
+    if (!champ_.empty())
+        s += "." + std::string{champ_};
+    if (indice_ >= 0)
+        s += "(" + std::to_string(indice_) + ")";
+    return s;
 }
 
 std::string_view libelle(cause c) { return libelles[static_cast<std::size_t>(c)]; }

@@ -2,6 +2,7 @@
 // names the cause and what it concerns, and the handler chosen at start ends the run.
 #pragma once
 
+#include <concepts>
 #include <string>
 #include <string_view>
 
@@ -19,14 +20,22 @@ enum class cause {
     ecriture_impossible,
 };
 
-/// Where a value was read, for a failure's message: a file, a variable, or a field of a panel.
-struct lieu {
-    std::string_view nom; ///< of the file, the variable or the panel; empty if it is not known
-    std::string_view champ = {};
-    int indice = -1; ///< the field's place in its array
+/// Where a value was read or what it was to become, for a failure's message: a file, a variable, or a field
+/// of a panel. It looks at its names and keeps none.
+class lieu {
+  public:
+    template <std::convertible_to<std::string_view> Nom>
+    constexpr lieu(const Nom& nom, std::string_view champ = {}, int indice = -1)
+        : nom_(nom), champ_(champ), indice_(indice) {}
 
-    /// "config_altaz.ini : ", "frmaltazpilot.tAZ(0) : ", or nothing.
-    std::string devant() const;
+    /// "config_altaz.ini : ", "frmaltazpilot.tAZ(0) : ".
+    std::string devant() const { return nom() + " : "; }
+    std::string nom() const;
+
+  private:
+    std::string_view nom_; ///< of the file, the variable or the panel
+    std::string_view champ_;
+    int indice_; ///< the field's place in its array
 };
 
 /// The French name of a cause, as the observer reads it.

@@ -114,9 +114,9 @@ std::string texte_signe(double x) {
     return t.front() == '-' ? t : " " + t;
 }
 
-double fini(double x, std::string_view quoi) {
+double fini(double x, const lieu& quoi) {
     if (!std::isfinite(x))
-        fatale(cause::depassement, std::string{quoi});
+        fatale(cause::depassement, quoi.nom());
     return x;
 }
 

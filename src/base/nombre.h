@@ -11,7 +11,7 @@ namespace base {
 /// The number a text begins with, 0 if it begins with none. Blanks are skipped wherever they stand, the
 /// decimal sign is the point, an exponent is taken, the rest is ignored: "12abc" is 12, "abc" is 0. Fatal
 /// (`depassement`) beyond the range of a double; `ou` says where the text stands, for the message.
-double nombre(std::string_view texte, const lieu& ou = {});
+double nombre(std::string_view texte, const lieu& ou);
 
 /// Whether a text is a number from its first character to its last, blanks around it apart.
 bool est_nombre(std::string_view texte);
@@ -26,13 +26,13 @@ inline std::string texte(entier32 n) { return std::to_string(n.valeur()); }
 std::string texte_signe(double x);
 
 /// x itself. Fatal (`depassement`) if it is infinite or not a number; `quoi` names the value.
-double fini(double x, std::string_view quoi);
+double fini(double x, const lieu& quoi);
 
 /// a / b; a zero divisor is fatal. `quoi` names the quotient for the message.
-double divise(double a, double b, std::string_view quoi = "quotient");
+double divise(double a, double b, std::string_view quoi);
 
 /// Square root; a negative argument is fatal.
-double racine(double x, std::string_view quoi = "racine");
+double racine(double x, std::string_view quoi);
 
 /// The element at a place; a place outside the table is fatal (`indice`), `nom` names the table.
 template <class Table> auto& element(Table& table, std::int64_t place, std::string_view nom) {

@@ -78,10 +78,10 @@ std::string lecteur::texte_entre_guillemets() {
 
 std::string lecteur::champ() {
     const auto t = texte();
-    return base::est_nombre(t) ? base::texte(base::nombre(t)) : t;
+    return base::est_nombre(t) ? base::texte(base::nombre(t, nom_)) : t;
 }
 
-double lecteur::nombre() { return base::nombre(suivante(), {nom_}); }
+double lecteur::nombre() { return base::nombre(suivante(), nom_); }
 
 bool lecteur::vrai() { return suivante() == "Vrai"; }
 
@@ -99,7 +99,7 @@ std::string lecteur::ligne() {
 
 void ecrivain::texte(std::string_view utf8) { octets_ += base::vers_1252(utf8) + "\r\n"; }
 void ecrivain::nombre(double x) { octets_ += base::texte_signe(x) + " \r\n"; }
-void ecrivain::booleen(bool b) { texte(b ? "Vrai" : "Faux"); }
+void ecrivain::booleen(base::booleen16 b) { texte(b ? "Vrai" : "Faux"); }
 
 void ecrivain::enregistre(const std::filesystem::path& chemin) const { base::ecrit_fichier(chemin, octets_); }
 

@@ -37,8 +37,8 @@ class lecteur {
     double nombre();
     /// The same, rounded with ties to the even number; what does not fit is fatal (`depassement`), with the
     /// file's name.
-    base::entier16 nombre16() { return base::entier16{nombre(), {nom_}}; }
-    base::entier32 nombre32() { return base::entier32{nombre(), {nom_}}; }
+    base::entier16 nombre16() { return base::entier16{nombre(), nom_}; }
+    base::entier32 nombre32() { return base::entier32{nombre(), nom_}; }
     /// True only if the next value is exactly "Vrai".
     bool vrai();
     /// The next line whole as UTF-8 text: commas and blanks belong to it, its line end doesn't.
@@ -68,7 +68,7 @@ class ecrivain {
     void nombre(double x);
     void nombre(base::entier32 n) { nombre(n.reel()); }
     /// "Vrai" or "Faux".
-    void booleen(bool b);
+    void booleen(base::booleen16 b);
     /// Replaces the file's content, or leaves it whole: fatal (`ecriture_impossible`) if it cannot be
     /// written.
     void enregistre(const std::filesystem::path& chemin) const;

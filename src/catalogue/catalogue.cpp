@@ -108,30 +108,30 @@ bool a_photographie(const std::string& nom) {
     return std::filesystem::file_size(photographie(nom), erreur) != static_cast<std::uintmax_t>(-1);
 }
 
-partie partage(entier32 coordonnee) {
-    const entier32 entiers = coordonnee / 600;
-    return {entiers, (coordonnee - entiers * 600).reel() / 10};
+partie partage(double coordonnee) {
+    const double entiers = std::trunc(coordonnee / 600);
+    return {entiers, (coordonnee - entiers * 600) / 10};
 }
 
 std::string texte_ad(const partie& p) {
-    return base::texte_signe(p.entiers.reel()) + "h" + base::texte_signe(p.minutes) + "'";
+    return base::texte_signe(p.entiers) + "h" + base::texte_signe(p.minutes) + "'";
 }
 
 std::string texte_dec(const partie& p) {
-    return base::texte_signe(p.entiers.reel()) + "°" + base::texte_signe(p.minutes) + "'";
+    return base::texte_signe(p.entiers) + "°" + base::texte_signe(p.minutes) + "'";
 }
 
-std::string texte_dec_objet(entier32 dec) {
+std::string texte_dec_objet(double dec) {
     auto p = partage(dec);
     if (p.entiers < 0)
         p.minutes = std::abs(p.minutes);
     return texte_dec(p);
 }
 
-std::string texte_dec_etoile(entier32 dec) {
+std::string texte_dec_etoile(double dec) {
     auto p = partage(dec);
     if (p.entiers < 0) // in whole tenths, so that one decimal is shown
-        p.minutes = (entier32{600} + (dec - p.entiers * 600)).reel() / 10;
+        p.minutes = (600 + (dec - p.entiers * 600)) / 10;
     return texte_dec(p);
 }
 

@@ -73,20 +73,19 @@ template <class F> void parcourt(const std::string& fichier, std::size_t limite,
         f(i, a);
 }
 
-/// One catalogue in a panel's or the chart's memory: four parallel arrays and a count. A panel takes the
-/// positions as 32-bit integers (rounded with ties to the even number), the chart as real numbers.
-template <std::size_t N, class Coordonnee> struct table {
+/// One catalogue in a panel's memory: four parallel arrays and a count. The positions are rounded with ties
+/// to the even number.
+template <std::size_t N> struct table {
     std::array<std::string, N> noms;
     std::array<std::string, N> codes;
-    std::array<Coordonnee, N> ad{};
-    std::array<Coordonnee, N> dec{};
+    std::array<base::entier32, N> ad{};
+    std::array<base::entier32, N> dec{};
     int nombre = 0;
 };
 
 /// Replaces a table's entries by those of a file; gives the names in order, for a list. Entries past the
 /// count stay. Fatal as `lit`, and a position beyond 32 bits.
-template <std::size_t N, class C>
-std::vector<std::string> charge(const std::string& fichier, table<N, C>& t) {
+template <std::size_t N> std::vector<std::string> charge(const std::string& fichier, table<N>& t) {
     std::vector<std::string> noms;
     t.nombre = 0;
     for (auto& a : lit(fichier, N)) {
@@ -94,8 +93,8 @@ std::vector<std::string> charge(const std::string& fichier, table<N, C>& t) {
         noms.push_back(a.nom);
         t.noms[i] = std::move(a.nom);
         t.codes[i] = std::move(a.code);
-        t.ad[i] = C{a.ad};
-        t.dec[i] = C{a.dec};
+        t.ad[i] = {a.ad, fichier};
+        t.dec[i] = {a.dec, fichier};
     }
     return noms;
 }
@@ -124,13 +123,14 @@ std::string lettregrecque(const std::string& nom);
 std::filesystem::path photographie(const std::string& nom);
 bool a_photographie(const std::string& nom);
 
-/// A coordinate in whole hours or degrees, cut towards 0, and minutes with one decimal. The minutes keep the
-/// sign: -7500 is -12 and -30, -300 is 0 and -30.
+/// A coordinate in whole hours or degrees, cut towards 0, and minutes with their decimals. The minutes keep
+/// the sign: -7500 is -12 and -30, -300 is 0 and -30, 3305.5 is 5 and 30.55.
 struct partie {
-    base::entier32 entiers;
+    double entiers = 0;
     double minutes = 0;
 };
-partie partage(base::entier32 coordonnee);
+partie partage(double coordonnee);
+inline partie partage(base::entier32 coordonnee) { return partage(coordonnee.reel()); }
 
 /// A right ascension and a declination as labels show them, a blank in the sign's place of each number:
 /// " 5h 30.5'", "-12°-30'".
@@ -139,8 +139,8 @@ std::string texte_dec(const partie& p);
 
 /// The declination of an object chosen: with whole degrees below 0 the minutes lose their sign, "-12° 30'".
 /// Under one degree they keep it: " 0°-30'".
-std::string texte_dec_objet(base::entier32 dec);
+std::string texte_dec_objet(double dec);
 /// The declination of a star aligned on: with whole degrees below 0 the minutes are 60 less their size.
-std::string texte_dec_etoile(base::entier32 dec);
+std::string texte_dec_etoile(double dec);
 
 } // namespace catalogue

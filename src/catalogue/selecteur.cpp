@@ -77,10 +77,10 @@ void applique_filtre(selecteur& s, entier16 n) {
         const auto place = static_cast<std::size_t>(i);
         if (m.objets.codes[place] != f.premier && m.objets.codes[place] != f.second)
             continue;
-        m.mapfiltre[noms.size()] = i;
+        m.mapfiltre[noms.size()] = {i, "mapfiltre"};
         noms.push_back(m.objets.noms[place]);
     }
-    m.nbfiltre = entier16{noms.size()} - entier16{1};
+    m.nbfiltre = {static_cast<int>(noms.size()) - 1, "nbfiltre"};
     s.champs.lbObjets.ajoute(std::move(noms));
 }
 
@@ -112,7 +112,7 @@ void nomme_etoile_proche(const selecteur& s) {
     const auto distance = [&](std::size_t j) {
         const double x = (ad - e.ad[j].reel()) * 15; // to tenths of a minute of arc
         const double y = dec - e.dec[j].reel();
-        return base::racine(x * x + y * y);
+        return base::racine(x * x + y * y, "distance");
     };
     std::size_t proche = 0;
     double meilleure = distance(0);
@@ -137,7 +137,7 @@ void branche(selecteur& s) {
             ouvre_menu_objet(s);
     });
     c.mnuaucun.au_clic([&s] { ote_filtre(s); });
-    for (int n = 1; n < static_cast<int>(filtres.size()); ++n)
+    for (std::int16_t n = 1; n < static_cast<int>(filtres.size()); ++n)
         (c.*filtre_de(n).entree).au_clic([&s, n] { applique_filtre(s, n); });
     c.mnunearest.au_clic([&s] { nomme_etoile_proche(s); });
 }

@@ -9,8 +9,8 @@ namespace catalogue {
 
 /// What the picker keeps while its panel is loaded.
 struct memoire_selecteur {
-    table<objets_panneau, base::entier32> objets;
-    table<etoiles_panneau, base::entier32> etoiles;       ///< the bright stars
+    table<objets_panneau> objets;
+    table<etoiles_panneau> etoiles;                       ///< the bright stars
     base::entier16 filtreobjets;                          ///< 0 none, 1 to 7 in the order of the menu
     std::array<base::entier16, objets_panneau> mapfiltre; ///< place in `objets` of each filtered line
     base::entier16 nbfiltre;                              ///< last filtered line, -1 for none

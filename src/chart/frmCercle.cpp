@@ -13,11 +13,10 @@
 #include "fields/frmequapointage_champs.h"
 #include "slewing/etat_pointage.h"
 #include "slewing/pointeequa.h"
+#include "store/touches.h"
 
 namespace frmCercle {
 
-using base::entier16;
-using base::entier32;
 using chart::espece;
 using chart::redessine;
 
@@ -41,7 +40,7 @@ const choix_catalogue catalogues[] = {
 // In the order of `filtrecercle`.
 entree* const filtres[] = {&mnuaucun, &mnuTous, &mnuGalaxie, &mnuAmas, &mnuNebuleuse};
 
-constexpr int pas_de_rotation = 10; // degrees, by menu or key
+constexpr std::int16_t pas_de_rotation = 10; // degrees, by menu or key
 
 chart::pris pris_a_la_presse() { return chart::procheobjet(presse.x, presse.y); }
 
@@ -97,7 +96,7 @@ void appuie(souris s) {
 
 // Flag and tick each from its own value: they can stand opposite.
 void bascule(base::booleen16& drapeau, entree& e) {
-    drapeau = !static_cast<bool>(drapeau);
+    drapeau = !drapeau;
     redessine();
     e.coche(!e.coche());
 }
@@ -112,7 +111,7 @@ void choisit_catalogue(const choix_catalogue& choix) {
     redessine();
 }
 
-void choisit_filtre(int n) {
+void choisit_filtre(std::int16_t n) {
     chart::filtrecercle = n;
     for (auto* e : filtres)
         e->coche(false);
@@ -120,17 +119,17 @@ void choisit_filtre(int n) {
     redessine();
 }
 
-void tourne(int degres) {
+void tourne(base::entier16 degres) {
     chart::tourne(degres);
     redessine();
 }
 
 void bascule_legende() {
-    if (Label1.legende() == "8") {
-        Label1.legende("7");
+    if (Label1.legende() == fleches::ouvre) {
+        Label1.legende(fleches::referme);
         frmLegend::fiche.montre();
     } else {
-        Label1.legende("8");
+        Label1.legende(fleches::ouvre);
         frmLegend::fiche.decharge();
     }
 }
@@ -138,7 +137,7 @@ void bascule_legende() {
 // ---- the hand-over to the pointing panels
 
 // In the labels of the panel in use.
-void affiche_position(entier32 ad, entier32 dec) {
+void affiche_position(double ad, double dec) {
     auto& choix = pointing::panneaualtaz ? frmaltazpointage::choix : frmequapointage::choix;
     choix.tADpos.legende(catalogue::texte_ad(catalogue::partage(ad)));
     choix.tdcpos.legende(catalogue::texte_dec_objet(dec));
@@ -151,7 +150,7 @@ void opere() {
     const double dec = a.dec;
     fiche.decharge();
     if (pointing::modepointage)
-        pointe(ad, dec);
+        pointe(ad, dec, p.quoi == espece::objet ? chart::cataloguecercle + ".cat" : "vstar.cat");
     else
         aligne(ad, dec);
 }
@@ -163,33 +162,33 @@ void frappe(touche t) {
     const double pas = t.ctrl ? 250 : t.maj ? 500 : 0;
     const int zoom = chart::zoomcercle.valeur();
     switch (t.code) {
-    case 39: // right
+    case touches::droite:
         chart::offsetx -= pas;
         break;
-    case 37: // left
+    case touches::gauche:
         chart::offsetx += pas;
         break;
-    case 38: // up
+    case touches::haut:
         chart::offsety += pas;
         break;
-    case 40: // down
+    case touches::bas:
         chart::offsety -= pas;
         break;
-    case 36: // home
+    case touches::debut:
         chart::raz_vue();
         break;
-    case 33: // page up
+    case touches::page_haut:
         if (zoom < chart::zoom_maximum)
-            chart::zoome(zoom + 1);
+            chart::zoome({zoom + 1, "zoomcercle"});
         break;
-    case 34: // page down
+    case touches::page_bas:
         if (zoom > 1)
-            chart::zoome(zoom - 1);
+            chart::zoome({zoom - 1, "zoomcercle"});
         break;
-    case 35: // end
+    case touches::fin:
         chart::tourne(-pas_de_rotation);
         break;
-    case 46: // delete
+    case touches::supprime:
         chart::tourne(pas_de_rotation);
         break;
     default:
@@ -204,9 +203,9 @@ void branche_menu() {
     mnuConst.au_clic([] { bascule(chart::constvisible, mnuConst); });
     for (const auto& c : catalogues)
         c.menu.au_clic([&c] { choisit_catalogue(c); });
-    for (int n = 0; n < static_cast<int>(std::size(filtres)); ++n)
+    for (std::int16_t n = 0; n < static_cast<int>(std::size(filtres)); ++n)
         filtres[n]->au_clic([n] { choisit_filtre(n); });
-    for (int z = 1; z <= chart::zoom_maximum; ++z)
+    for (std::int16_t z = 1; z <= chart::zoom_maximum; ++z)
         entree_zoom(z).au_clic([z] {
             chart::zoome(z);
             redessine();
@@ -223,11 +222,11 @@ void branche_menu() {
 } // namespace
 
 // The chart's slew is the equatorial one, for either panel.
-void pointe(double ad, double dec) {
-    pointing::ciblead = entier32{ad};
-    pointing::cibledec = entier32{dec};
+void pointe(double ad, double dec, const base::lieu& ou) {
+    pointing::ciblead = {ad, ou};
+    pointing::cibledec = {dec, ou};
     pointing::pointeequa();
-    affiche_position(pointing::ciblead, pointing::cibledec);
+    affiche_position(pointing::ciblead.reel(), pointing::cibledec.reel());
     pointing::reticulead = pointing::ciblead.reel();
     pointing::reticuledec = pointing::cibledec.reel();
 }
@@ -235,7 +234,7 @@ void pointe(double ad, double dec) {
 void aligne(double ad, double dec) {
     pointing::reticulead = ad;
     pointing::reticuledec = dec;
-    affiche_position(entier32{ad}, entier32{dec});
+    affiche_position(ad, dec);
     pointing::reticulevisible = true;
     if (!pointing::panneaualtaz)
         frmequapointage::picpointage.visible(true);

@@ -15,8 +15,6 @@ namespace {
 constexpr double centiemes_par_pouce = 2540; // of a millimetre
 constexpr double twips_par_pouce = 1440;
 
-int mesure(int pixels, double ppp, double par_pouce) { return entier32{pixels / ppp * par_pouce}.valeur(); }
-
 } // namespace
 
 void branche() {
@@ -31,14 +29,17 @@ void montre(const std::string& nom) {
     constexpr int ecart_bouton = 100;
     const auto chemin = catalogue::photographie(nom);
     const auto photo = shell::vue_courante->charge_image(chemin);
-    const int large = mesure(photo.largeur, photo.ppp, centiemes_par_pouce);
+    const auto mesure = [&](int pixels, double par_pouce) -> int {
+        return entier32{pixels / photo.ppp * par_pouce, chemin.string()}.valeur();
+    };
+    const int large = mesure(photo.largeur, centiemes_par_pouce);
     if (large > entier16::maximum)
         base::fatale(base::cause::depassement, chemin.string() + ", largeur");
-    oPicture.hauteur(mesure(photo.hauteur, photo.ppp, centiemes_par_pouce) + marge_image);
+    oPicture.hauteur(mesure(photo.hauteur, centiemes_par_pouce) + marge_image);
     oPicture.largeur(large + marge_image);
     oPicture.image(photo);
-    oPicture.hauteur(mesure(photo.hauteur, photo.ppp, twips_par_pouce)); // its natural size
-    oPicture.largeur(mesure(photo.largeur, photo.ppp, twips_par_pouce));
+    oPicture.hauteur(mesure(photo.hauteur, twips_par_pouce)); // its natural size
+    oPicture.largeur(mesure(photo.largeur, twips_par_pouce));
     fiche.legende(nom);
     fiche.hauteur(oPicture.hauteur() + marge_hauteur);
     fiche.largeur(oPicture.largeur() + marge_largeur);

@@ -8,7 +8,7 @@ namespace frmLegend {
 void branche() {
     bFin.au_clic([] {
         fiche.decharge();
-        frmCercle::Label1.legende("8"); // so that its next click opens the legend again
+        frmCercle::Label1.legende(fleches::ouvre); // so that its next click opens the legend again
     });
 }
 

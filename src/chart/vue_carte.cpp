@@ -35,7 +35,7 @@ void zoome(entier16 zoom) {
     pose_zoom(zoom);
 }
 
-void tourne(entier16 degres) { rotcercle = (rotcercle + degres) % 360; }
+void tourne(entier16 degres) { rotcercle = {(rotcercle + degres) % 360, "rotcercle"}; }
 
 void raz_vue() {
     pose_zoom(1);

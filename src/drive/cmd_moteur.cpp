@@ -24,7 +24,7 @@ bool impaire(entier16 commande) { return commande == 1 || commande == 3; }
 // Direction and step of a command; `leve`: the command raises the direction line.
 void dirige(const axe* a, bool leve) {
     if (a) {
-        bitsens = leve ? a->sens : 0;
+        bitsens = leve ? a->sens : entier16{};
         bitpas = a->pas;
     } else if (cmdsens == 0) {
         bitsens = 0;
@@ -43,7 +43,7 @@ void prend_vitesse(const std::array<entier32, 10>& table, const char* nom) {
 
 void pas() {
     demi_pas(bitsens, attente, tempopas);
-    demi_pas(bitsens + bitpas, attente, tempopas);
+    demi_pas({bitsens + bitpas, "bitsens"}, attente, tempopas);
 }
 
 void lit_inversion() {
@@ -62,7 +62,7 @@ struct jog_en_cours {
     jog_en_cours& operator=(const jog_en_cours&) = delete;
 };
 
-void compte(const axe& a) { a.compte += sensplus ? entier32{1} : entier32{-1}; }
+void compte(const axe& a) { a.compte = {a.compte + (sensplus ? 1 : -1), "pas comptés"}; }
 
 void jog(void (*vitesse)(), void (*compte)()) {
     const jog_en_cours ici;
@@ -79,9 +79,10 @@ void jog(void (*vitesse)(), void (*compte)()) {
 
 void rafale(const axe& a, double ecart, entier16 nombre, const entier32& tempo) {
     bitsens = ecart > 0 ? a.plus : a.moins;
-    for (entier32 i = 1; i <= entier32{nombre}; ++i) {
+    const char* champ = ecart > 0 ? a.nom_plus : a.nom_moins;
+    for (int i = 1; i <= nombre.valeur(); ++i) {
         demi_pas(bitsens, attenterafale, tempo);
-        demi_pas(bitsens + entier16{a.pas}, attenterafale, tempo);
+        demi_pas({bitsens + a.pas, champ}, attenterafale, tempo);
     }
 }
 
@@ -98,8 +99,10 @@ void fixesens() {
 
 entier16 commande_du_sens(bool en_altitude, bool leve) {
     lit_inversion();
-    const bool impair = leve != static_cast<bool>(en_altitude ? invalt : invaz);
-    return entier16{(en_altitude ? 3 : 1) + (impair ? 0 : 1)};
+    const bool impair = (en_altitude ? invalt : invaz) != leve;
+    if (en_altitude)
+        return impair ? entier16{3} : entier16{4};
+    return impair ? entier16{1} : entier16{2};
 }
 
 void port_a_la_raquette() {
@@ -124,8 +127,8 @@ void jogaltaz_alt() { jog(tempoaltaz, comptepasalt); }
 void pasequa() {
     fixesens();
     tempoequa();
-    const entier32 nombre = nbpassuivi;
-    for (entier32 i = 1; i <= nombre; ++i) {
+    const int nombre = nbpassuivi.valeur();
+    for (int i = 1; i <= nombre; ++i) {
         pas();
         if (vitchange)
             tempoequa();
@@ -134,6 +137,6 @@ void pasequa() {
 
 void rafaleaz() { rafale(azimut, general::ecartaz, nbpasaz, tempoaz); }
 
-void rafalealt() { rafale(altitude, general::ecartalt, entier16{nbpasalt, {"pas en altitude"}}, tempoalt); }
+void rafalealt() { rafale(altitude, general::ecartalt, entier16{nbpasalt, "pas en altitude"}, tempoalt); }
 
 } // namespace cmd_moteur

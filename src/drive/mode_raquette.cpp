@@ -16,7 +16,7 @@ void mesure_jeu() {
     cmd_moteur::port_a_la_raquette();
     frmraquette::fiche.montre();
     frmraquette::fiche.largeur(frmraquette::largeur_ouverte);
-    frmraquette::lblbacklash.legende("7");
+    frmraquette::lblbacklash.legende(fleches::referme);
     frminterface::Timer.marche(true);
 }
 

@@ -44,7 +44,7 @@ const touche touches[] = {
 
 void presse(const touche& t) {
     const auto& [sur, inversion, boucle] = t.de;
-    bitsens = inversion.coche() == t.leve_si_cochee ? sur.sens : 0;
+    bitsens = inversion.coche() == t.leve_si_cochee ? sur.sens : entier16{};
     bitpas = sur.pas;
     tempopaddle = t.tempo;
     if (bitsens == sur.plus)
@@ -55,28 +55,26 @@ void presse(const touche& t) {
 // The data register is read first. What a handler changes in a yield acts at the next use.
 void boucle(const axe& a, void (*compte)()) {
     a.jeu = 0;
-    entier16 v = Inp32(registre_donnees);
-    v += Inp32(registre_controle);
-    v -= baselinepaddle;
+    const entier16 lues = Inp32(registre_donnees);
+    entier16 v{lues + Inp32(registre_controle) - baselinepaddle, "code de la raquette"};
     while (v == codepaddle) {
         demi_pas(bitsens, attente, tempopaddle);
-        demi_pas(bitsens + bitpas, attente, tempopaddle);
+        demi_pas({bitsens + bitpas, "bitsens"}, attente, tempopaddle);
         const entier16 d = Inp32(registre_donnees);
         const entier16 c = Inp32(registre_controle);
-        baselinepaddle = bitpas + bitsens;
-        v = c + d - baselinepaddle;
+        baselinepaddle = {bitpas + bitsens, "baselinepaddle"};
+        v = {c + d - baselinepaddle, "code de la raquette"};
         compte();
         a.jeu += 1.0;
-        a.encode += 1;
+        a.encode = {a.encode + 1, "pas de la raquette"};
     }
 }
 
 } // namespace
 
 void scruteraquette() {
-    entier16 code = Inp32(registre_donnees) - baselinepaddle;
-    code += Inp32(registre_controle);
-    codepaddle = code;
+    const entier16 d = Inp32(registre_donnees);
+    codepaddle = {d - baselinepaddle + Inp32(registre_controle), "codepaddle"};
     sensplus = false;
     if (codepaddle == aucune_touche) {
         bitsens = 0;

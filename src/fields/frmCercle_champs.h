@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/nombre.h"
+#include "fields/fleches.h"
 #include "store/controles.h"
 
 #include <array>
@@ -17,7 +18,7 @@ inline constinit champ_surface ciel{fiche, "ciel", {0, 0, 9150, 9150}, {.traits 
 // In the corners that the disc leaves.
 inline constinit champ_bouton bEsc{fiche, "bEsc", {8130, 90, 870, 420}, {.legende = "Fin"}};
 inline constinit champ_etiquette Label1{
-    fiche, "Label1", {8580, 8700, 420, 300}, {.legende = "8", .traits = symbole | centre | aplat}};
+    fiche, "Label1", {8580, 8700, 420, 300}, {.legende = fleches::ouvre, .traits = symbole | centre | aplat}};
 
 inline constinit entree mnuName{fiche, "mnuName", {.traits = surgissant}};
 inline constinit entree mnuNom{fiche, "mnuNom", {.cadre = &mnuName}};

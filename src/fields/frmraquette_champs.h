@@ -1,6 +1,7 @@
 // The panel of the hand paddle, as designed. Its inversion boxes are what the paddle itself reads.
 #pragma once
 
+#include "fields/fleches.h"
 #include "store/controles.h"
 
 namespace frmraquette {
@@ -60,7 +61,7 @@ inline constinit champ_bouton cmdvalid{fiche, "cmdvalid", {1260, 3915, 1320, 420
 inline constinit champ_etiquette Label2{
     fiche, "Label2", {2715, 3990, 1680, 270}, {.legende = "Réglage backlash"}};
 inline constinit champ_etiquette lblbacklash{
-    fiche, "lblbacklash", {4425, 3915, 600, 420}, {.legende = "8", .traits = symbole | centre}};
+    fiche, "lblbacklash", {4425, 3915, 600, 420}, {.legende = fleches::ouvre, .traits = symbole | centre}};
 
 // The backlash section, behind the right edge of the closed panel.
 inline constinit champ_etiquette Label4{fiche, "Label4", {5265, 60, 2025, 270}, {.legende = "A.D \\ Azimut"}};

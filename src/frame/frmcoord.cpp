@@ -11,7 +11,7 @@
 
 namespace frmcoord {
 
-using base::entier16;
+using base::entier32;
 using general::decalageheure;
 
 namespace {
@@ -56,8 +56,8 @@ void charge() {
     frminterface::coordvisible = true;
     passe_en_ete();
     general::ecritheure(t.heure);
-    txtmin.ecrit(entier16{t.minute});
-    txts.ecrit(entier16{t.seconde});
+    txtmin.ecrit(entier32{t.minute});
+    txts.ecrit(entier32{t.seconde});
     remplirdates();
     general::ecritdate(t);
     choisit_saison();

@@ -48,7 +48,7 @@ void compte_a_vide() {
 void charge_images() {
     valeurs::lecteur f{plateforme::fichier_donnees("img/liste.txt")};
     for (int i = 0; !f.fini(); ++i) {
-        const auto chemin = plateforme::fichier_donnees("img/" + f.texte() + ".gif");
+        const auto chemin = plateforme::fichier_donnees("img/" + f.texte_entre_guillemets() + ".gif");
         // A list cut short ends in half a name: what is to be mended is the list.
         if (!std::filesystem::exists(chemin))
             base::fatale(base::cause::fichier_introuvable,
@@ -143,7 +143,7 @@ void mode_altazimutal_par_barre() {
 
 // Hidden, the panel stays loaded: clock and position go on.
 void bascule_coordonnees() {
-    if (coordvisible == true) {
+    if (coordvisible) {
         frmcoord::fiche.cache();
         coordvisible = false;
     } else {

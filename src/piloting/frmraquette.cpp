@@ -5,6 +5,7 @@
 #include "fields/frminterface_champs.h"
 #include "fields/frmraquette_champs.h"
 #include "piloting/jeu.h"
+#include "piloting/pilotage.h"
 #include "seam/plateforme.h"
 #include "store/champs_fichier.h"
 
@@ -58,21 +59,14 @@ void charge() {
     for (std::size_t i = 0; i < vitesses.size(); ++i)
         vitesses[i].champ.ecrit(vitessemanu[i]);
     for (const auto& v : vitesses)
-        v.barre.valeur(entier32{(v.etendue.sommet - v.champ.nombre()) / v.etendue.facteur, v.champ.lieu()},
-                       {fichier});
+        v.barre.valeur({(v.etendue.sommet - v.champ.nombre()) / v.etendue.facteur, v.champ.lieu()}, fichier);
     txtbacklash_alt.ecrit(backlashalt);
     txtbacklash_az.ecrit(backlashaz);
 }
 
 void change_vitesse(const vitesse& v) {
-    v.champ.ecrit(v.etendue.sommet - v.etendue.facteur * v.barre.valeur());
+    v.champ.ecrit(entier32{v.etendue.sommet - v.etendue.facteur * v.barre.valeur(), v.champ.lieu()});
     v.slot = v.champ.nombre32();
-}
-
-void bascule_section() {
-    const bool ferme = lblbacklash.legende() != "8";
-    lblbacklash.legende(ferme ? "8" : "7");
-    fiche.largeur(ferme ? largeur_fermee : largeur_ouverte);
 }
 
 void note_jeu(double& jeu, champ_texte& champ, double pas) {
@@ -80,28 +74,14 @@ void note_jeu(double& jeu, champ_texte& champ, double pas) {
     champ.ecrit(jeu);
 }
 
-// A field that reads as 0 keeps the count that stands in the table.
-void enregistre_vitesses() {
-    valeurs::ecrivain f;
-    for (std::size_t i = 0; i < vitesses.size(); ++i) {
-        const double v = vitesses[i].champ.nombre();
-        if (v != 0) {
-            vitessemanu[i] = entier32{v};
-            f.nombre(v);
-        } else {
-            f.nombre(vitessemanu[i]);
-        }
-    }
-    f.enregistre(plateforme::fichier_donnees(fichier));
-}
-
 void enregistre() {
-    enregistre_vitesses();
+    piloting::enregistre_comptes(
+        fichier, vitessemanu, [](std::size_t i) -> auto& { return vitesses[i].champ; }, 1);
     invaz = chkaz.coche();
     invalt = chkalt.coche();
     valeurs::ecrivain f;
-    f.booleen(static_cast<bool>(invaz));
-    f.booleen(static_cast<bool>(invalt));
+    f.booleen(invaz);
+    f.booleen(invalt);
     f.enregistre(plateforme::fichier_donnees("inversion.ini"));
     reglages::ecrit("backlash.ini", std::array{&txtbacklash_az, &txtbacklash_alt});
 }
@@ -112,7 +92,8 @@ void branche() {
     fiche.au_chargement(charge);
     for (const auto& v : vitesses)
         v.barre.au_changement([&v] { change_vitesse(v); });
-    lblbacklash.au_clic(bascule_section);
+    lblbacklash.au_clic(
+        [] { piloting::bascule_section(lblbacklash, fiche, largeur_fermee, largeur_ouverte); });
     cmdjeuaz_deb.au_clic([] { note_jeu(backlashaz, txtbacklash_az, 0); });
     cmdjeuaz_fin.au_clic([] { note_jeu(backlashaz, txtbacklash_az, jeucourantaz); });
     cmdjeualt_deb.au_clic([] { note_jeu(backlashalt, txtbacklash_alt, 0); });

@@ -3,44 +3,41 @@
 #pragma once
 
 #include "drive/etat_moteur.h"
-#include "fields/reglage_champs.h"
+#include "fields/pilote_champs.h"
 #include "store/controles.h"
 
 #include <array>
+#include <functional>
+#include <span>
 
 namespace piloting {
 
 /// A panel shows delay counts divided by this.
 inline constexpr int comptes_par_unite = 50;
 
-/// A direction button, its command and the loop it starts.
-struct direction {
-    shell::champ_bouton* bouton;
-    int commande; ///< of `cmdsens`
-    void (*jog)();
-};
-
 /// One pilot panel: its controls and what differs from the other.
 struct pilote {
     shell::panneau& fiche;
-    std::array<direction, 4> directions;
-    shell::champ_bouton& arret;
-    shell::champ_bouton& quitte;
-    shell::champ_bouton& valide;
-    shell::champ_etiquette& section; ///< "7" open, "8" closed
-    int largeur_fermee;              ///< twips
+    champs_deplacement& deplacement;
+    champs_classe& azimut;
+    champs_classe& altitude;
+    champs_pied& pied;
+    int largeur_fermee; ///< twips
     int largeur_ouverte;
-    shell::champ_curseur& classe_az;
-    shell::champ_curseur& classe_alt;
-    shell::champ_texte& numero_az;
-    shell::champ_texte& numero_alt;
-    shell::champ_texte& jauge_az;
-    shell::champ_texte& jauge_alt;
-    const char* jauge_az_0; ///< bar of the first axis at class 0
-    champs_reglage& reglage;
+    void (*jog_az)();
+    void (*jog_alt)();
+    const char* jauge_az_0;                      ///< bar of the first axis at class 0
     std::array<cmd_moteur::entier32, 10>& table; ///< delay counts, in the order of the section's classes
     const char* fichier;
 };
+
+/// Opens or closes the part of a panel past its narrow width; the label shows the arrow of the next click.
+void bascule_section(shell::champ_etiquette& fleche, shell::panneau& fiche, int fermee, int ouverte);
+
+/// Saves a table of delay counts from its fields, times `facteur`: a field that reads as 0 keeps the count
+/// that stands in the table. Fatal: a count beyond 32 bits.
+void enregistre_comptes(const char* fichier, std::span<cmd_moteur::entier32> table,
+                        const std::function<shell::champ_texte&(std::size_t)>& champ, double facteur);
 
 /// Wires a pilot panel's events. The description must live as long as the program.
 void branche(const pilote& p);

@@ -34,7 +34,7 @@ void charge() {
 void aligne() {
     const double heures = pointing::entiers(choix.tAD(0));
     const double minutes = pointing::entiers(choix.tAD(1));
-    pointing::ciblead = base::entier32{heures * 600 + minutes * 10};
+    pointing::ciblead = {heures * 600 + minutes * 10, choix.tAD(0).lieu()};
     pointing::affiche_ad(choix, heures, minutes);
     const auto degres = pointing::entre_declinaison(choix);
     general::ecartalt = 0;

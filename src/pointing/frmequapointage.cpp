@@ -56,7 +56,7 @@ void charge() {
     picpointage.image(imagesboutons[pointage.repos]);
     lbEtoiles.ajoute(catalogue::charge_etoiles(selecteur));
     catalogue::remplit_catalogues(selecteur);
-    lbEtoiles.position(etoile_de_depart, {catalogue::entrees.front().fichier});
+    lbEtoiles.position(etoile_de_depart, catalogue::entrees.front().fichier);
     choix.lbObjets.visible(false);
     choix.lbCatalogue.visible(false);
     choix.Frame4.visible(false);
@@ -75,14 +75,18 @@ void pointe_objet() {
     pointing::cibledec = objet.dec;
     pointing::pointeequa();
     choix.tADpos.legende(catalogue::texte_ad(catalogue::partage(ciblead)));
-    choix.tdcpos.legende(catalogue::texte_dec_objet(cibledec));
+    choix.tdcpos.legende(catalogue::texte_dec_objet(cibledec.reel()));
     croit_la_cible();
 }
 
 void pointe_entree() {
-    const entier16 heures{pointing::entiers(choix.tAD(0))};
-    const entier16 minutes{pointing::entiers(choix.tAD(1))};
-    ciblead = heures * entier16{600} + minutes * entier16{10};
+    const auto ou_h = choix.tAD(0).lieu();
+    const auto ou_m = choix.tAD(1).lieu();
+    const entier16 heures{pointing::entiers(choix.tAD(0)), ou_h};
+    const entier16 minutes{pointing::entiers(choix.tAD(1)), ou_m};
+    const entier16 dixiemes_h{heures * 600, ou_h}; // in 16 bits, each step
+    const entier16 dixiemes_m{minutes * 10, ou_m};
+    ciblead = entier16{dixiemes_h + dixiemes_m, ou_h};
     pointing::affiche_ad(choix, heures.reel(), minutes.reel());
     pointing::entre_declinaison(choix);
     pointing::pointeequa();
@@ -96,7 +100,7 @@ void aligne_sur_etoile() {
     pointing::reticulead = ad.reel();
     pointing::reticuledec = dec.reel();
     choix.tADpos.legende(catalogue::texte_ad(catalogue::partage(ad)));
-    choix.tdcpos.legende(catalogue::texte_dec_etoile(dec));
+    choix.tdcpos.legende(catalogue::texte_dec_etoile(dec.reel()));
     pointing::reticulevisible = true;
     choix.lbCatalogue.visible(true);
     choix.lbObjets.visible(true);
@@ -107,8 +111,8 @@ void enregistre() {
     pointing::invpointad = chkpointad.coche();
     pointing::invpointdec = chkpointdec.coche();
     valeurs::ecrivain f;
-    f.booleen(static_cast<bool>(pointing::invpointad));
-    f.booleen(static_cast<bool>(pointing::invpointdec));
+    f.booleen(pointing::invpointad);
+    f.booleen(pointing::invpointdec);
     f.enregistre(plateforme::fichier_donnees(fichier_inversion));
 }
 

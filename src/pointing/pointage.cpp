@@ -19,14 +19,14 @@ void charge_reglages(champs_pointage& c, const std::string& fichier) {
     valeurs::lecteur f{plateforme::fichier_donnees(fichier)};
     const double az = f.nombre();
     const double alt = f.nombre();
-    c.cbpointaz.position(entier32{az - 1}, {fichier});
-    c.cbpointalt.position(entier32{alt - 1}, {fichier});
+    c.cbpointaz.position({az - 1, fichier}, fichier);
+    c.cbpointalt.position({alt - 1, fichier}, fichier);
 }
 
 void enregistre_vitesses(champs_pointage& c, const std::string& fichier) {
     valeurs::ecrivain f;
-    f.nombre(entier32{c.cbpointaz.position()} + entier32{1});
-    f.nombre(entier32{c.cbpointalt.position()} + entier32{1});
+    f.nombre(entier32{c.cbpointaz.position() + 1});
+    f.nombre(entier32{c.cbpointalt.position() + 1});
     f.enregistre(plateforme::fichier_donnees(fichier));
 }
 
@@ -37,9 +37,10 @@ void affiche_ad(catalogue::champs_selecteur& c, double heures, double minutes) {
 }
 
 entier16 entre_declinaison(catalogue::champs_selecteur& c) {
-    const entier16 degres{entiers(c.tDec(0))};
-    const entier16 minutes{entiers(c.tDec(1))};
-    cibledec = entier32{degres * entier16{60}} * 10 + entier32{minutes} * 10;
+    const entier16 degres{entiers(c.tDec(0)), c.tDec(0).lieu()};
+    const entier16 minutes{entiers(c.tDec(1)), c.tDec(1).lieu()};
+    const entier16 en_minutes{degres * 60, c.tDec(0).lieu()};
+    cibledec = {en_minutes * 10 + minutes * 10, c.tDec(0).lieu()};
     c.tdcpos.legende(texte_signe(degres.reel()) + "°" + texte_signe(minutes.reel()) + "'");
     return degres;
 }

@@ -25,18 +25,18 @@ struct pupitre {
     shell::champ_curseur& az;
     shell::champ_curseur& alt;
 };
-const pupitre equatorial{
-    frmequapilot::fiche,
-    {&frmequapilot::cmdad, &frmequapilot::cmdag, &frmequapilot::cmdhh, &frmequapilot::cmdhb},
-    frmequapilot::cmddstop,
-    frmequapilot::slaz,
-    frmequapilot::slalt};
-const pupitre altazimutal{
-    frmaltazpilot::fiche,
-    {&frmaltazpilot::cmdad, &frmaltazpilot::cmdag, &frmaltazpilot::cmdhh, &frmaltazpilot::cmdhb},
-    frmaltazpilot::cmddstop,
-    frmaltazpilot::slaz,
-    frmaltazpilot::slalt};
+const pupitre equatorial{frmequapilot::fiche,
+                         {&frmequapilot::deplacement.cmdad, &frmequapilot::deplacement.cmdag,
+                          &frmequapilot::deplacement.cmdhh, &frmequapilot::deplacement.cmdhb},
+                         frmequapilot::deplacement.cmddstop,
+                         frmequapilot::ascension.curseur,
+                         frmequapilot::declinaison.curseur};
+const pupitre altazimutal{frmaltazpilot::fiche,
+                          {&frmaltazpilot::deplacement.cmdad, &frmaltazpilot::deplacement.cmdag,
+                           &frmaltazpilot::deplacement.cmdhh, &frmaltazpilot::deplacement.cmdhb},
+                          frmaltazpilot::deplacement.cmddstop,
+                          frmaltazpilot::azimut.curseur,
+                          frmaltazpilot::altitude.curseur};
 
 struct demande {
     numero qui = 0;
@@ -187,7 +187,7 @@ void commence() {
         if (possible && d.jog)
             jogue(*d.jog);
         else if (possible)
-            designe(frmCercle::pointe, d.cible);
+            designe([](double ad, double dec) { frmCercle::pointe(ad, dec, "planétarium"); }, d.cible);
     }
 }
 

@@ -33,7 +33,7 @@ std::optional<double> chiffre(std::string_view texte, double min, double max) {
     constexpr std::size_t longueur = 40;
     if (texte.size() > longueur || texte.find_first_of("eE") != std::string_view::npos)
         return std::nullopt;
-    const double x = base::nombre(texte);
+    const double x = base::nombre(texte, "planétarium");
     return x >= min && x <= max ? std::optional{x} : std::nullopt;
 }
 
@@ -89,7 +89,7 @@ std::optional<double> sideral_du_panneau() {
     const auto ici = lieu();
     if (!t0 || !h || !m || !s || !ms || !ici)
         return std::nullopt;
-    return general::tempsecoule(*h, *m, *s, base::entier16{*ms}) + ici->longitude * 240 + *t0;
+    return general::tempsecoule(*h, *m, *s, base::entier16{*ms, "txtms"}) + ici->longitude * 240 + *t0;
 }
 
 std::optional<general::place> reticule() {

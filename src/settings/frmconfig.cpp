@@ -12,7 +12,6 @@
 #include "sky/affichage.h"
 #include "sky/almanach.h"
 #include "sky/conversion.h"
-#include "sky/math.h"
 #include "store/champs_fichier.h"
 #include "tracking/etat_suivi.h"
 
@@ -31,11 +30,21 @@ const char* const fichier = "config_altaz.ini";
 const std::array<champ_texte*, 8> champs = {&txtdegre, &txtmin,    &txtlatdeg, &txtlatmin,
                                             &txtpasaz, &txtpasalt, &txtRalt,   &txtRaz};
 
-catalogue::table<catalogue::objets_panneau, entier32> objets;
+catalogue::table<catalogue::objets_panneau> objets;
+
+// Arcseconds per step, from the motor steps per turn and the reduction ratio, rounded to a whole number with
+// ties to the even one. A motor is driven in half steps: hence the last division by 2.
+double angle_par_pas(champ_texte& pas, champ_texte& rapport) {
+    const double n = pas.nombre();
+    return base::divise(360, n * rapport.nombre32().reel(), "angle d'un pas") * 3600 / 2;
+}
+
+double angleaz() { return angle_par_pas(txtpasaz, txtRaz); }
+double anglealt() { return angle_par_pas(txtpasalt, txtRalt); }
 
 void calcule_pas() {
-    general::angpasaz = base::fini(math::angleaz(), "angpasaz");
-    general::angpasalt = base::fini(math::anglealt(), "angpasalt");
+    general::angpasaz = base::fini(angleaz(), "angpasaz");
+    general::angpasalt = base::fini(anglealt(), "angpasalt");
     txtapas.ecrit(general::angpasaz);
     txthpas.ecrit(general::angpasalt);
 }
@@ -85,7 +94,7 @@ void realigne() {
 
 // The declination as it is split may carry its sign on either part, or a blank in its place.
 void choisit_declinaison(const catalogue::partie& dec) {
-    const auto degres = texte_signe(dec.entiers.reel());
+    const auto degres = texte_signe(dec.entiers);
     const auto minutes = texte_signe(dec.minutes);
     const bool negative = degres.front() == '-' || minutes.front() == '-';
     txtsign.ecrit(negative ? "-" : "+");
@@ -96,10 +105,10 @@ void choisit_declinaison(const catalogue::partie& dec) {
 void choisit_objet() {
     const int i = lbObjets.position();
     const auto ad = catalogue::partage(base::element(objets.ad, i, "lbObjets"));
-    Txtad_h.ecrit(texte_signe(ad.entiers.reel()));
+    Txtad_h.ecrit(texte_signe(ad.entiers));
     txtad_min.ecrit(texte_signe(ad.minutes));
     choisit_declinaison(catalogue::partage(base::element(objets.dec, i, "lbObjets")));
-    if (tracking::suiviouvert == true) {
+    if (tracking::suiviouvert) {
         frmaltazsuivi::Txtad_h.ecrit(Txtad_h.nombre());
         frmaltazsuivi::txtad_min.ecrit(txtad_min.nombre());
         frmaltazsuivi::txtdec_deg.ecrit(txtdec_deg.nombre());

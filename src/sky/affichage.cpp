@@ -7,7 +7,6 @@
 #include "fields/frmconfig_champs.h"
 #include "fields/frmcoord_champs.h"
 #include "sky/conversion.h"
-#include "sky/math.h"
 
 #include <cmath>
 
@@ -16,11 +15,11 @@ namespace general {
 namespace {
 
 void affiche_azimut() {
-    math::ecritdms(posaz, frmcoord::txtcoordaz1, frmcoord::txtcoordaz2, frmcoord::txtcoordaz3);
+    ecritdms(posaz, frmcoord::txtcoordaz1, frmcoord::txtcoordaz2, frmcoord::txtcoordaz3);
 }
 
 void affiche_altitude() {
-    math::ecritdms(posalt, frmcoord::txtcoordalt1, frmcoord::txtcoordalt2, frmcoord::txtcoordalt3);
+    ecritdms(posalt, frmcoord::txtcoordalt1, frmcoord::txtcoordalt2, frmcoord::txtcoordalt3);
 }
 
 // The position after so many steps.
@@ -29,6 +28,13 @@ double ajoute_pas(double position, double angle_par_pas, base::entier32 compte) 
 }
 
 } // namespace
+
+void ecritdms(double arcsec, shell::champ_texte& deg, shell::champ_texte& min, shell::champ_texte& sec) {
+    const double d = std::floor(arcsec / 3600.0);
+    deg.ecrit(d);
+    min.ecrit(std::floor((arcsec - d * 3600.0) / 60.0));
+    sec.ecrit(base::arrondi(arcsec - deg.nombre() * 3600.0 - min.nombre() * 60.0));
+}
 
 void affiche_equa() {
     double h = std::floor(adheures);
@@ -42,7 +48,7 @@ void affiche_equa() {
     frmaltazsuivi::Txtad_h.ecrit(h);
     frmaltazsuivi::txtad_min.ecrit(m);
     const double d = std::abs(decdeg);
-    const base::entier16 g{std::floor(d)};
+    const base::entier16 g{std::floor(d), "decdeg"};
     const double e = (d - g.reel()) * 60.0;
     frmaltazsuivi::txtdec_deg.ecrit(g);
     frmaltazsuivi::txtdec_min.ecrit(e);

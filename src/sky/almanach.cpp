@@ -25,7 +25,7 @@ std::string dossier_du_mois(int mois) {
 
 void lit_mois(const std::string& nom) {
     valeurs::lecteur f{plateforme::fichier_donnees(nom), valeurs::separateurs::virgule_ou_blanc};
-    for (indicejour = 1; !f.fini(); ++indicejour)
+    for (indicejour = 1; !f.fini(); indicejour = {indicejour + 1, nom})
         for (auto* colonne : {&jouralm, &heurealm, &minutealm, &secondealm})
             base::element(*colonne, indicejour.valeur(), nom) = f.nombre16();
 }
@@ -43,15 +43,15 @@ void lit_almanach() {
     else
         shell::vue_courante->message("choix de l'année non valide");
     chemindate += dossier_du_mois(mois);
-    const auto nom = chemindate + "/sg0.txt";
+    const auto fichier = chemindate + "/sg0.txt";
     // The folder is then that of no year, or of one read before; the observer misses a file of this one.
-    if (!connue && !std::filesystem::exists(plateforme::fichier_donnees(nom)))
+    if (!connue && !std::filesystem::exists(plateforme::fichier_donnees(fichier)))
         base::fatale(base::cause::fichier_introuvable,
                      plateforme::fichier_donnees(de_l_annee + dossier_du_mois(mois) + "/sg0.txt").string());
-    lit_mois(nom);
+    lit_mois(fichier);
     // The minutes are multiplied in 16 bits.
-    tsg0 = entier32{heurealm[jour]} * 3600 + entier32{minutealm[jour] * entier16{60}} +
-           entier32{secondealm[jour]};
+    const entier16 secondes{minutealm[jour] * 60, fichier};
+    tsg0 = {heurealm[jour] * 3600 + secondes + secondealm[jour], fichier};
     frmcoord::txtessai.ecrit(tsg0);
 }
 

@@ -10,13 +10,14 @@ using base::entier32;
 
 void ecritheure(int heure) {
     frmcoord::fiche.charge(); // whose load chooses the offset
+    const auto heures = [](int civile) { return entier32{civile - decalageheure, "txth"}; };
     // Written once: a field that changes is painted.
     if (heure == 0)
-        frmcoord::txth.ecrit(entier16{24} - decalageheure);
+        frmcoord::txth.ecrit(heures(24));
     else if (heure == 1)
         frmcoord::txth.ecrit(decalageheure == 1 ? "0" : "23");
     else
-        frmcoord::txth.ecrit(entier16{heure} - decalageheure);
+        frmcoord::txth.ecrit(heures(heure));
 }
 
 void synchro_heure() {
@@ -26,8 +27,8 @@ void synchro_heure() {
         frmcoord::cbjour.position(t.jour - 2);
         lit_almanach();
     }
-    frmcoord::txtmin.ecrit(entier16{t.minute});
-    frmcoord::txts.ecrit(entier16{t.seconde});
+    frmcoord::txtmin.ecrit(entier32{t.minute});
+    frmcoord::txts.ecrit(entier32{t.seconde});
 }
 
 void ecritdate(const plateforme::instant& date) {

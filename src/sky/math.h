@@ -1,12 +1,8 @@
-// Angles: the constant pi, degrees and radians, the inverse functions, and the size of a motor step.
+// Angles: the constant pi, degrees and radians, the inverse functions.
 //
 // The inverse functions are built from the arctangent and test nothing: their weak points at the ends of the
 // range are part of the formulas that use them.
 #pragma once
-
-namespace shell {
-class champ_texte;
-}
 
 namespace math {
 
@@ -37,15 +33,5 @@ double adsecondes(double h, double m);
 /// Hour angle in radians, positive west, of right ascension a at sidereal time t, both in seconds of time.
 /// Not reduced to a turn.
 double anglehoraire(double t, double a);
-
-/// Arcseconds per step, from the motor steps per turn and the reduction ratio (rounded to a whole number,
-/// ties to the even one) in the fields of `frmconfig`. A motor is driven in half steps: hence the last
-/// division by 2. Steps or ratio of 0 are fatal.
-double angleaz();
-double anglealt();
-
-/// Writes arcseconds to three fields as whole degrees and minutes, both rounded down, and the seconds left,
-/// rounded with ties to the even number: 3599.6 shows 0, 59, 60, and -1 shows -1, 59, 59.
-void ecritdms(double arcsec, shell::champ_texte& deg, shell::champ_texte& min, shell::champ_texte& sec);
 
 } // namespace math

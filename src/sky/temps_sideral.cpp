@@ -21,7 +21,7 @@ double tempsecoule(double h, double m, double s, entier16 ms) {
 }
 
 double tslbase(double deg, entier16 min, entier32 t0) {
-    return (entier32{deg * 240 + min.reel() * 4} + t0).reel();
+    return entier32{entier32{deg * 240 + min.reel() * 4, frmconfig::txtdegre.lieu()} + t0, "tsl"}.reel();
 }
 
 double lit_tsl() {
@@ -30,15 +30,15 @@ double lit_tsl() {
     const double s = frmcoord::txts.nombre();
     const double t = tempsecoule(h, m, s, frmcoord::txtms.nombre16());
     const double deg = frmconfig::txtdegre.nombre();
-    const entier16 min{frmconfig::txtmin.nombre()};
+    const entier16 min = frmconfig::txtmin.nombre16();
     const double l = t + tslbase(deg, min, frmcoord::txtessai.nombre32());
     return l < secondes_par_jour ? l : l - secondes_par_jour;
 }
 
 void fixe_tslsec(double tsl) {
-    tslsec = entier32{tsl};
+    tslsec = {tsl, "tslsec"};
     if (tslsec >= secondes_par_jour)
-        tslsec -= secondes_par_jour;
+        tslsec = {tslsec - secondes_par_jour, "tslsec"};
 }
 
 } // namespace general

@@ -11,9 +11,8 @@ namespace {
 void charge() {
     ProgressBaraz.valeur(0);
     ProgressBaralt.valeur(0);
-    const bool altaz = static_cast<bool>(pointing::panneaualtaz);
-    Lblaz.legende(altaz ? "Azimut" : "A.D");
-    lblalt.legende(altaz ? "Altitude" : "Déc.");
+    Lblaz.legende(pointing::panneaualtaz ? "Azimut" : "A.D");
+    lblalt.legende(pointing::panneaualtaz ? "Altitude" : "Déc.");
 }
 
 // The loops see the flag before their next pulse; without a way left, no further pass begins.

@@ -18,7 +18,7 @@ void envoie(double nombre, const base::entier16& sens, const base::entier16& pas
     envoyees = i;
     while (!stoppointage && i <= nombre) {
         demi_pas(sens, attentepointage, tempopas);
-        demi_pas(sens + pas, attentepointage, tempopas);
+        demi_pas({sens + pas, "bitsens"}, attentepointage, tempopas);
         if (i != 0 && nombre != 0)
             barre.valeur(std::floor(i * 100 / nombre));
         i = i + 1;

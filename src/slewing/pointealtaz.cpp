@@ -7,7 +7,7 @@
 #include "fields/frmDepl_champs.h"
 #include "fields/frmaltazpointage_champs.h"
 #include "seam/plateforme.h"
-#include "sky/math.h"
+#include "sky/affichage.h"
 #include "sky/temps_sideral.h"
 #include "slewing/etat_pointage.h"
 #include "slewing/impulsions.h"
@@ -59,8 +59,8 @@ void calchoriz(const general::objet& o) { general::vers_horizon(general::lit_tsl
 
 void affichecible() {
     using namespace frmaltazpointage;
-    math::ecritdms(cibleaz, txtcoordaz1, txtcoordaz2, txtcoordaz3);
-    math::ecritdms(ciblealt, txtcoordalt1, txtcoordalt2, txtcoordalt3);
+    general::ecritdms(cibleaz, txtcoordaz1, txtcoordaz2, txtcoordaz3);
+    general::ecritdms(ciblealt, txtcoordalt1, txtcoordalt2, txtcoordalt3);
 }
 
 void pointealtaz() {
@@ -75,7 +75,7 @@ void pointealtaz() {
     cibleaz = general::azdeg * 3600;
     affichecible();
     if (ciblealt < 0) {
-        shell::vue_courante->message("déplacement impossible : altitude négative !");
+        shell::vue_courante->message("déplacement impossible : altitude négative !", shell::titre::aucun);
         distaz = 0;
         distalt = 0;
         return;
@@ -84,10 +84,10 @@ void pointealtaz() {
     distalt = base::fini(ciblealt - posalt, "distalt");
     frmaltazpointage::txtdistaz.ecrit(distaz);
     frmaltazpointage::txtdistalt.ecrit(distalt);
-    cmd_moteur::classevitaz = entier16{frmaltazpointage::reglages.cbpointaz.position()};
-    cmd_moteur::classevitalt = entier16{frmaltazpointage::reglages.cbpointalt.position()};
+    cmd_moteur::classevitaz = {frmaltazpointage::reglages.cbpointaz.position(), "cbpointaz"};
+    cmd_moteur::classevitalt = {frmaltazpointage::reglages.cbpointalt.position(), "cbpointalt"};
     const double nbaz = compte(distaz, general::angpasaz, "nbaz");
-    const entier32 nbalt{compte(distalt, general::angpasalt, "nbalt")};
+    const entier32 nbalt{compte(distalt, general::angpasalt, "nbalt"), "nbalt"};
     cmd_moteur::cmdsens = 1;
     cmd_moteur::tempoaltaz();
     frmDepl::fiche.montre();
@@ -103,20 +103,20 @@ void pointealtaz() {
 
 void pointe_objet() {
     const auto ad = catalogue::partage(ciblead);
-    ciblehr = ad.entiers.reel();
+    ciblehr = ad.entiers;
     ciblemin = ad.minutes;
     const auto dec = catalogue::partage(cibledec);
-    cibledeg = dec.entiers;
+    cibledeg = {dec.entiers, "cibledeg"};
     cibledegmin = cibledeg < 0 ? std::abs(dec.minutes) : dec.minutes;
     frmaltazpointage::choix.tADpos.legende(catalogue::texte_ad(ad));
-    frmaltazpointage::choix.tdcpos.legende(catalogue::texte_dec({cibledeg, cibledegmin}));
+    frmaltazpointage::choix.tdcpos.legende(catalogue::texte_dec({dec.entiers, cibledegmin}));
     distaz = ecart_tolere + 1;
     distalt = ecart_tolere + 1;
-    bool arrete = false;
+    base::booleen16 arrete;
     // A stop asked for before the pass leaves it without a pulse, and its differences as they are.
     while (!arrete && (std::abs(distalt) >= ecart_tolere || std::abs(distaz) >= ecart_tolere)) {
         pointealtaz();
-        arrete = static_cast<bool>(stoppointage);
+        arrete = stoppointage;
     }
     frmDepl::fiche.decharge();
     stoppointage = false;

@@ -36,9 +36,9 @@ void controle::absent() const {
 
 void controle::dit(aspect a) { vue_courante->controle_change(*this, a); }
 
-void controle::refuse(const std::string& valeur, const base::lieu& origine) const {
+void controle::refuse(const std::string& valeur, std::string_view origine) const {
     base::fatale(base::cause::propriete,
-                 origine.devant() + std::string{fiche_->nom()} + "." + nom() + " = " + valeur);
+                 (origine.empty() ? "" : std::string{origine} + " : ") + lieu().nom() + " = " + valeur);
 }
 
 std::string controle::nom() const {
@@ -139,7 +139,7 @@ void entree::ouvre(const entree* defaut) {
 
 std::string selectionnable::ligne(int k) { return base::element(acces().lignes, k, nom_court()); }
 
-void selectionnable::position(base::entier32 k, const base::lieu& origine) {
+void selectionnable::position(base::entier32 k, std::string_view origine) {
     const auto n = static_cast<std::int64_t>(acces().lignes.size());
     const std::int64_t p = k.valeur();
     if (p >= n || p < premiere())
@@ -192,13 +192,13 @@ void selectionnable::droit(int k) { sur_la_ligne(k, r().droit); }
 
 // ---- bars
 
-bool reglable::place(base::entier32 n, const base::lieu& origine) {
+bool reglable::place(base::entier32 n, std::string_view origine) {
     if (n < comme_dessine().min || n > comme_dessine().max)
         refuse(base::texte(n), origine);
     return change(&etat::valeur, n.reel(), aspect::valeur);
 }
 
-void reglable::valeur(base::entier32 n, const base::lieu& origine) {
+void reglable::valeur(base::entier32 n, std::string_view origine) {
     if (place(n, origine))
         repond(r().change);
 }

@@ -126,7 +126,7 @@ class controle {
             repond(reponse, a...);
     }
     /// For a value that it cannot take: fatal (`propriete`), with its name.
-    [[noreturn]] void refuse(const std::string& valeur, const base::lieu& origine = {}) const;
+    [[noreturn]] void refuse(const std::string& valeur, std::string_view origine = {}) const;
 
   private:
     friend class panneau;
@@ -204,7 +204,7 @@ class selectionnable : public controle {
   public:
     int position() { return acces().position; }
     /// `origine`: the file that it comes from, for the message.
-    void position(base::entier32 k, const base::lieu& origine = {});
+    void position(base::entier32 k, std::string_view origine = {});
     std::string ligne(int k);
     void ajoute(const std::string& ligne);
     void ajoute(std::vector<std::string> lignes);
@@ -229,10 +229,10 @@ class selectionnable : public controle {
 /// one it already has fires nothing.
 class reglable : public controle {
   public:
-    base::entier32 valeur() { return base::entier32{acces().valeur}; }
-    void valeur(base::entier32 n, const base::lieu& origine = {});
-    bool place(base::entier32 n,
-               const base::lieu& origine = {}); ///< sets it without its event; whether it differs
+    base::entier32 valeur() { return {acces().valeur, lieu()}; }
+    /// `origine`: the file that the value comes from, for a failure's message.
+    void valeur(base::entier32 n, std::string_view origine = {});
+    bool place(base::entier32 n, std::string_view origine = {}); ///< sets it without its event; whether it differs
     void au_changement(std::function<void()> f) { r().change = std::move(f); }
     void regle(int n); ///< a user moves it; beyond an end it stays there
 
@@ -262,7 +262,7 @@ class champ_texte : public de_genre<genre::texte, controle> {
     base::entier16 nombre16() { return base::entier16{nombre(), lieu()}; }
     base::entier32 nombre32() { return base::entier32{nombre(), lieu()}; }
     void ecrit(const std::string& texte) { change(&etat::texte, texte, aspect::texte); }
-    void ecrit(double x) { ecrit(base::texte(x)); }
+    void ecrit(double x) { ecrit(base::texte(base::fini(x, lieu()))); }
     void ecrit(base::entier16 n) { ecrit(base::texte(n)); }
     void ecrit(base::entier32 n) { ecrit(base::texte(n)); }
     void saisit(const std::string& texte); ///< a user typed it

@@ -4,7 +4,7 @@
 #include "drive/position.h"
 #include "fields/frmaltazsuivi_champs.h"
 #include "fields/frmcoord_champs.h"
-#include "sky/math.h"
+#include "sky/affichage.h"
 #include "sky/temps_sideral.h"
 #include "tracking/etat_suivi.h"
 
@@ -33,9 +33,9 @@ void affiche_temps_sideral() {
 }
 
 void affiche_sur_frmcoord() {
-    math::ecritdms(posaz, frmcoord::txtcoordaz1, frmcoord::txtcoordaz2, frmcoord::txtcoordaz3);
+    general::ecritdms(posaz, frmcoord::txtcoordaz1, frmcoord::txtcoordaz2, frmcoord::txtcoordaz3);
     if (posalt > 0) {
-        math::ecritdms(posalt, frmcoord::txtcoordalt1, frmcoord::txtcoordalt2, frmcoord::txtcoordalt3);
+        general::ecritdms(posalt, frmcoord::txtcoordalt1, frmcoord::txtcoordalt2, frmcoord::txtcoordalt3);
         return;
     }
     const double x = 60 - minutes(posalt);

@@ -66,7 +66,7 @@ void commence() {
     frmcoord::frheure.largeur(largeur_frheure);
     if (cmdstop.legende() == en_pause)
         cmdstop.legende(en_marche);
-    if (tracking::objetchoisi == false) {
+    if (!tracking::objetchoisi) {
         general::calcul_equa();
         general::affiche_equa();
     }
@@ -104,14 +104,14 @@ void diminue() {
 }
 
 void enregistre() {
-    tracking::prive.invsuiviaz = chksuiviaz.coche();
-    tracking::prive.invsuivialt = chksuivialt.coche();
+    const bool invsuiviaz = chksuiviaz.coche(); // no motion looks at them
+    const bool invsuivialt = chksuivialt.coche();
     valeurs::ecrivain f;
     f.texte(txtincrement.lit());
     f.texte(txttempoa.lit());
     f.texte(txttempoh.lit());
-    f.booleen(static_cast<bool>(tracking::prive.invsuiviaz));
-    f.booleen(static_cast<bool>(tracking::prive.invsuivialt));
+    f.booleen(invsuiviaz);
+    f.booleen(invsuivialt);
     f.enregistre(plateforme::fichier_donnees(fichier));
 }
 
@@ -133,7 +133,7 @@ void quitte() {
 void branche() {
     fiche.au_chargement(charge);
     fiche.au_dechargement(decharge);
-    fiche.remise_a_zero([] { tracking::prive = {}; });
+    fiche.remise_a_zero(tracking::oublie_position);
     cmdcalcul.au_clic(commence);
     cmdstop.au_clic(suspend_ou_reprend);
     cmdraquette.au_clic(reglages::prend_raquette);

@@ -40,7 +40,7 @@ void avance_secondes(double h, double n, double s, double k) {
 void passe_jour() {
     txtmin.ecrit("0");
     txth.ecrit("0");
-    frmcoord::cbjour.position(base::entier32{frmcoord::cbjour.position()} + 1);
+    frmcoord::cbjour.position(frmcoord::cbjour.position() + 1);
     general::lit_almanach();
 }
 

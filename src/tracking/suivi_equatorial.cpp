@@ -11,19 +11,18 @@ namespace suivi_equatorial {
 
 using namespace frmequapilot;
 using base::divise;
-using base::entier16;
+using base::entier32;
 using cmd_moteur::nbpassuivi;
 
 namespace {
 
 constexpr double vitesse_siderale = 15.04; // arcseconds a second of time
+constexpr const char* pas_par_seconde = "config_equa.ini, pas par seconde";
 
 // What the panel keeps while it is open.
 struct memoire {
     double secondeprec = 0; // the second of the last burst, 0 to 59
-    entier16 secondecour;   // the second seen by the present tick
     double passeconde = 0;  // steps a second, exact
-    double restesuivi = 0;  // exact less rounded count of this second
     double sommesuivi = 0;  // accumulated fraction, steps; a new start keeps it
 };
 memoire prive;
@@ -43,7 +42,7 @@ double lit_pas_par_seconde() {
 void commence() {
     const auto t = plateforme::maintenant();
     prive.secondeprec = t.seconde;
-    txts.ecrit(entier16{t.seconde});
+    txts.ecrit(entier32{t.seconde});
     prive.passeconde = lit_pas_par_seconde();
     txtpas.ecrit(prive.passeconde);
     txtessai.ecrit("0");
@@ -53,17 +52,17 @@ void commence() {
 
 // The interval of the timer only serves to catch the change of second; what was missed is not made up.
 void tic() {
-    prive.secondecour = plateforme::maintenant().seconde;
-    if (prive.secondecour.reel() == prive.secondeprec)
+    const int secondecour = plateforme::maintenant().seconde;
+    if (secondecour == prive.secondeprec)
         return;
     txtessai.ecrit(txtessai.nombre() + 1);
-    nbpassuivi = entier16{prive.passeconde, {"pas par seconde"}};
-    prive.restesuivi = prive.passeconde - nbpassuivi.reel();
-    prive.sommesuivi += prive.restesuivi;
-    nbpassuivi += entier16{tracking::paie(prive.sommesuivi)};
+    nbpassuivi = {prive.passeconde, pas_par_seconde};
+    const double restesuivi = prive.passeconde - nbpassuivi.reel();
+    prive.sommesuivi += restesuivi;
+    nbpassuivi = {nbpassuivi + tracking::paie(prive.sommesuivi), pas_par_seconde};
     txtpas1.ecrit(nbpassuivi);
     cmd_moteur::pasequa();
-    prive.secondeprec = prive.secondecour.reel();
+    prive.secondeprec = secondecour;
 }
 
 } // namespace

@@ -14,8 +14,6 @@
 
 namespace tracking {
 
-using base::entier16;
-using base::entier32;
 using cmd_moteur::nbpasalt;
 using cmd_moteur::nbpasaz;
 using general::ecartalt;
@@ -38,26 +36,25 @@ void lit_reglages() {
 }
 
 // The count of altitude is checked for 16 bits by its burst, after that of azimuth has gone out.
-void compte_altitude() {
-    prive.altnew = general::posalt;
-    ecartalt = prive.altnew - prive.altold;
-    prive.pasexactalt = pas_exacts(ecartalt, general::angpasalt, "pas en altitude");
-    nbpasalt = base::arrondi(prive.pasexactalt);
-    prive.resteazalt = prive.pasexactalt - nbpasalt;
-    sommealt += prive.resteazalt;
+void compte_altitude(double altnew) {
+    ecartalt = altnew - altold;
+    const double pasexactalt = pas_exacts(ecartalt, general::angpasalt, "pas en altitude");
+    nbpasalt = base::arrondi(pasexactalt);
+    const double resteazalt = pasexactalt - nbpasalt;
+    sommealt += resteazalt;
     nbpasalt += paie(sommealt);
 }
 
-void compte_azimut() {
-    prive.aznew = general::posaz;
-    ecartaz = prive.aznew - prive.azold;
+void compte_azimut(double aznew) {
+    const char* quoi = "pas en azimut";
+    ecartaz = aznew - azold;
     if (std::abs(ecartaz) > passage_zero)
         ecartaz += ecartaz < 0 ? tour : -tour;
-    prive.pasexactaz = pas_exacts(ecartaz, general::angpasaz, "pas en azimut");
-    nbpasaz = entier16{prive.pasexactaz, {"pas en azimut"}};
-    prive.resteaz = prive.pasexactaz - nbpasaz.reel();
-    sommeaz += prive.resteaz;
-    nbpasaz += entier16{paie(sommeaz)};
+    const double pasexactaz = pas_exacts(ecartaz, general::angpasaz, quoi);
+    nbpasaz = {pasexactaz, quoi};
+    const double resteaz = pasexactaz - nbpasaz.reel();
+    sommeaz += resteaz;
+    nbpasaz = {nbpasaz + paie(sommeaz), quoi};
 }
 
 } // namespace
@@ -67,11 +64,13 @@ void tic() {
     recale_horloge();
     avance_horloge();
     general::calcul_altaz();
-    compte_altitude();
-    compte_azimut();
+    const double altnew = general::posalt;
+    const double aznew = general::posaz;
+    compte_altitude(altnew);
+    compte_azimut(aznew);
     affiche();
-    prive.altold = prive.altnew;
-    prive.azold = prive.aznew;
+    altold = altnew;
+    azold = aznew;
     cmd_moteur::rafaleaz();
     cmd_moteur::rafalealt();
     frmaltazsuivi::timcompteur.marche(true);
@@ -80,15 +79,18 @@ void tic() {
 void efface_sommes() {
     nbpasaz = 0;
     nbpasalt = 0;
-    prive.resteaz = 0;
-    prive.resteazalt = 0;
     sommeaz = 0;
     sommealt = 0;
 }
 
 void part_d_ici() {
-    prive.altold = general::posalt;
-    prive.azold = general::posaz;
+    altold = general::posalt;
+    azold = general::posaz;
+}
+
+void oublie_position() {
+    altold = 0;
+    azold = 0;
 }
 
 } // namespace tracking

@@ -5,34 +5,23 @@
 // The sums are of unsigned counts: they know nothing of the sense of the motion, nor of its reversals.
 #pragma once
 
-#include "base/entier.h"
-
 namespace tracking {
 
-/// What the tracking panel keeps while it is open.
-struct memoire {
-    double altnew = 0; ///< altitude of this tick, arcseconds
-    double altold = 0; ///< and of the one before
-    double aznew = 0;  ///< the same of azimuth
-    double azold = 0;
-    double pasexactalt = 0; ///< steps before rounding, unsigned
-    double pasexactaz = 0;
-    double resteazalt = 0; ///< exact less rounded count of this tick
-    double resteaz = 0;
-    base::booleen16 invsuiviaz; ///< the inversion boxes as last saved; no motion looks at them
-    base::booleen16 invsuivialt;
-};
-inline memoire prive;
+inline double altold = 0; ///< altitude of the tick before, arcseconds, while the panel is open
+inline double azold = 0;  ///< azimuth
 
 /// The tick. Reads increment and delays from the panel, moves the clock, computes, shows, sends the bursts,
 /// which yield, and switches its timer on again at its very end: a pause inside a burst is overruled, and a
 /// panel closed there is loaded anew. Fatal (`depassement`): an increment or a step count beyond 16 bits.
 void tic();
 
-/// Clears the step counts, the rests and the sums.
+/// Clears the step counts and the sums.
 void efface_sommes();
 
 /// Takes the place just computed for that of the tick before the first.
 void part_d_ici();
+
+/// What a close of the panel leaves: no place.
+void oublie_position();
 
 } // namespace tracking

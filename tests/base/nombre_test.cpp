@@ -4,8 +4,9 @@
 #include <cmath>
 #include <limits>
 
-using base::nombre;
 using base::texte;
+
+static double nombre(std::string_view t) { return base::nombre(t, "t"); }
 
 TEST(Nombre, ReadsTheLeadingNumberAndIgnoresTheRest) {
     const struct {
@@ -54,11 +55,11 @@ TEST(Texte, IsTheShortestPlainDecimal) {
 }
 
 TEST(Arithmetique, ZeroDivisorNegativeRootAndPlaceOutsideATableAreFatal) {
-    EXPECT_EQ(base::divise(1, 4), 0.25);
-    EXPECT_EQ(base::racine(6.25), 2.5);
-    essais::attend_echec(base::cause::division_par_zero, [] { base::divise(1, 0.0); });
-    essais::attend_echec(base::cause::division_par_zero, [] { base::divise(0, -0.0); });
-    essais::attend_echec(base::cause::racine_negative, [] { base::racine(-1e-300); });
+    EXPECT_EQ(base::divise(1, 4, "q"), 0.25);
+    EXPECT_EQ(base::racine(6.25, "r"), 2.5);
+    essais::attend_echec(base::cause::division_par_zero, [] { base::divise(1, 0.0, "q"); });
+    essais::attend_echec(base::cause::division_par_zero, [] { base::divise(0, -0.0, "q"); });
+    essais::attend_echec(base::cause::racine_negative, [] { base::racine(-1e-300, "r"); });
     std::array<int, 3> t{1, 2, 3};
     EXPECT_EQ(base::element(t, 2, "t"), 3);
     EXPECT_EQ(essais::attend_echec(base::cause::indice, [&] { base::element(t, 3, "t"); }), "t(3)");

@@ -35,7 +35,7 @@ struct machine_du_banc {
         c.apres_cession = [this, fin = c.apres_cession] {
             fin();
             if (attentes == arret)
-                frmaltazpilot::cmddstop.clic();
+                frmaltazpilot::deplacement.cmddstop.clic();
         };
         c.donnees = DONNEES;
         return c;

@@ -69,6 +69,19 @@ void dit_et_accepte(QMessageBox& boite) {
     QTest::mouseClick(boite.button(QMessageBox::Ok), Qt::LeftButton);
 }
 
+TEST_F(demarrage, only_the_box_of_a_low_target_has_no_title) {
+    for (const auto& [t, attendu] :
+         {std::pair{shell::titre::programme, "Velmoria"}, {shell::titre::aucun, ""}}) {
+        QString lu{"?"};
+        a_la_boite([&lu](QMessageBox& boite) {
+            lu = boite.windowTitle().trimmed();
+            boite.accept();
+        });
+        shell::vue_courante->message("essai", t);
+        EXPECT_EQ(lu, attendu);
+    }
+}
+
 class fin_du_programme : public demarrage {
   protected:
     fin_du_programme() {

@@ -48,7 +48,7 @@ TEST_F(pilotage, a_jog_by_the_mouse_until_the_stop_is_pressed) {
     int a_l_appui = 0;
     port.apres(50, [&] {
         EXPECT_EQ(cmdsens, 2);
-        EXPECT_TRUE(frmaltazpilot::cmdag.regarde().enfonce);
+        EXPECT_TRUE(frmaltazpilot::deplacement.cmdag.regarde().enfonce);
         appuie("cmddstop");
         EXPECT_EQ(cmdsens, 0);
         a_l_appui = port.impulsions;
@@ -57,7 +57,7 @@ TEST_F(pilotage, a_jog_by_the_mouse_until_the_stop_is_pressed) {
     EXPECT_GE(a_l_appui, 50);
     EXPECT_LE(port.impulsions, a_l_appui + 1);
     EXPECT_EQ(valeurs(), (std::vector{0, 4}));
-    EXPECT_FALSE(frmaltazpilot::cmdag.regarde().enfonce);
+    EXPECT_FALSE(frmaltazpilot::deplacement.cmdag.regarde().enfonce);
     EXPECT_EQ(s->boucle().passes() - passes, static_cast<std::uint64_t>(2 * port.impulsions));
     relache("cmddstop");
     EXPECT_EQ(cmdsens, 0);

@@ -69,7 +69,7 @@ TEST_P(place_a_l_echelle, panels_open_whole_and_come_back_inside) {
     EXPECT_FALSE(barres());
     frmaltazpilot::fiche.montre();
     sous(frmaltazpilot::fiche)->move(500, 10);
-    frmaltazpilot::lblvit.clic(); // wider
+    frmaltazpilot::pied.lblvit.clic(); // wider
     verifie(frmaltazpilot::fiche);
     frmCercle::fiche.montre();
     if (barres()) { // at 1.5 and 2: the chart is larger than the frame
@@ -130,10 +130,10 @@ TEST_F(place, no_key_reaches_what_lies_beyond_the_edge) {
         return dehors;
     };
     EXPECT_EQ(parcourt(), 0);
-    frmaltazpilot::lblvit.clic();
+    frmaltazpilot::pied.lblvit.clic();
     EXPECT_GT(parcourt(), 10);
     piece("frmaltazpilot", "HScroll1")->setFocus();
-    frmaltazpilot::lblvit.clic();
+    frmaltazpilot::pied.lblvit.clic();
     EXPECT_NE(QApplication::focusWidget(), piece("frmaltazpilot", "HScroll1"));
     EXPECT_TRUE(sous(pilotage)->isAncestorOf(QApplication::focusWidget()));
 }
@@ -191,7 +191,7 @@ TEST_F(place, escape_stops_a_jog_from_anywhere) {
         la();
         const int avant = port.impulsions;
         port.apres(avant + 10, [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape); });
-        frmaltazpilot::cmdad.clic();
+        frmaltazpilot::deplacement.cmdad.clic();
         EXPECT_LE(port.impulsions, avant + 13);
     }
     frmCercle::fiche.decharge();

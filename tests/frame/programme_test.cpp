@@ -49,8 +49,8 @@ TEST_F(Programme, bulles) {
             EXPECT_FALSE(p->est_charge());
         }
     // 1234 x 50 and one counts of 30 ns, twice a pulse: 1e9 / (2 x 61701 x 30) = 270.1
-    frmaltazpilot::reglage.champ(2).ecrit("1234");
-    EXPECT_NE(bulles::bulle(frmaltazpilot::reglage.champ(2)).find(" 270 impulsions"), std::string::npos);
+    frmaltazpilot::pied.reglage.champ(2).ecrit("1234");
+    EXPECT_NE(bulles::bulle(frmaltazpilot::pied.reglage.champ(2)).find(" 270 impulsions"), std::string::npos);
 }
 
 TEST_F(Programme, adresse_de_l_aide) {

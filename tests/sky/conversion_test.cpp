@@ -27,7 +27,7 @@ void pose(const std::string& latitude, int tsl) {
                         &frmconfig::txtdegre, &frmconfig::txtmin, &frmconfig::txtlatmin})
         champ->ecrit("0");
     frmconfig::txtlatdeg.ecrit(latitude);
-    frmcoord::txtessai.ecrit(base::entier32{tsl});
+    frmcoord::txtessai.ecrit(base::entier32(tsl, "tsl"));
 }
 
 // Angle on the sky between the position and a place in degrees, arcseconds.

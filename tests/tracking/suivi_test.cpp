@@ -69,7 +69,7 @@ TEST_F(horloge_suivi, les_quatre_cas) {
         frmcoord::txtessai.ecrit("?");
         heure(c.h, c.n, c.s);
         frmcoord::txtms.ecrit(c.m);
-        tracking::incrementms = c.increment;
+        tracking::incrementms = {c.increment, "increment"};
         tracking::avance_horloge();
         EXPECT_EQ(heure(), c.attendue) << c.increment;
         EXPECT_EQ(frmcoord::cbjour.position(), c.jour) << c.attendue;
@@ -97,8 +97,8 @@ class tic_suivi : public essais::Essai {
     }
     void tic(double ecartaz, double ecartalt) {
         boucle.regle_horloge({.annee = 2001, .mois = 8, .jour = 15, .heure = 22});
-        tracking::prive.azold = general::posaz - ecartaz;
-        tracking::prive.altold = general::posalt - ecartalt;
+        tracking::azold = general::posaz - ecartaz;
+        tracking::altold = general::posalt - ecartalt;
         monture.zero();
         tracking::tic();
     }
@@ -224,7 +224,7 @@ TEST_F(suivi_equatorial, dix_heures) {
         const double demi_pas = 1296000 / (std::stod(pas) * std::stod(rapport)) / 2;
         const double angle = static_cast<double>(monture.total().az8 - avant) * demi_pas;
         EXPECT_LE(std::abs(angle - 36000 * 15.04), demi_pas) << pas << " x " << rapport;
-        Cmdquit.clic();
+        pied.Cmdquit.clic();
     }
     EXPECT_EQ(monture.total().az0 + monture.total().alt0 + monture.total().alt2, 0U);
 }

@@ -12,6 +12,7 @@
 #include "machines/virtual/scenario.h"
 #include "machines/virtual/vue_scenario.h"
 #include "remote/planetarium.h"
+#include "seam/entete_image.h"
 
 #include <array>
 #include <cstdlib>
@@ -83,13 +84,13 @@ void notes(std::string_view octets) {
 
 void catalogues(std::string_view octets) {
     avec_fichier("messier.cat", octets, [] {
-        catalogue::table<catalogue::objets_panneau, base::entier32> t;
+        catalogue::table<catalogue::objets_panneau> t;
         const auto noms = catalogue::charge("messier.cat", t);
         exige(noms.size() == static_cast<std::size_t>(t.nombre) && noms.size() <= catalogue::objets_panneau);
         for (std::size_t i = 0; i < noms.size(); ++i) {
             catalogue::texte_ad(catalogue::partage(t.ad[i]));
-            catalogue::texte_dec_objet(t.dec[i]);
-            catalogue::texte_dec_etoile(t.dec[i]);
+            catalogue::texte_dec_objet(t.dec[i].reel());
+            catalogue::texte_dec_etoile(t.dec[i].reel());
             catalogue::lettregrecque(noms[i]);
         }
     });

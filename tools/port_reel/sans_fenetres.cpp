@@ -49,7 +49,9 @@ class vue_absente final : public shell::vue {
     void repeint(shell::panneau&) override {}
     void controle_change(shell::controle&, shell::aspect) override {}
     shell::entree* ouvre_menu(shell::entree&, const shell::entree*) override { return nullptr; }
-    void message(const std::string& texte) override { std::printf("message : %s\n", texte.c_str()); }
+    void message(const std::string& texte, shell::titre) override {
+        std::printf("message : %s\n", texte.c_str());
+    }
     plateforme::image charge_image(const std::filesystem::path&) override { return {1, 10, 10, 96}; }
 };
 
@@ -69,7 +71,7 @@ void observe(boucle_reelle& boucle) {
         boucle.geste = std::move(geste);
     };
     const auto jog = [&](shell::champ_bouton& bouton, int pas) {
-        apres(pas, [] { frmaltazpilot::cmddstop.clic(); });
+        apres(pas, [] { frmaltazpilot::deplacement.cmddstop.clic(); });
         bouton.clic();
     };
     const auto relit = [](int registre, std::initializer_list<int> valeurs) {
@@ -82,10 +84,10 @@ void observe(boucle_reelle& boucle) {
     };
     frminterface::barchoix_boutons(2).clic();
     frminterface::baraltaz_boutons(3).clic();
-    jog(frmaltazpilot::cmdad, 3);
-    jog(frmaltazpilot::cmdag, 2);
-    jog(frmaltazpilot::cmdhh, 2);
-    jog(frmaltazpilot::cmdhb, 1);
+    jog(frmaltazpilot::deplacement.cmdad, 3);
+    jog(frmaltazpilot::deplacement.cmdag, 2);
+    jog(frmaltazpilot::deplacement.cmdhh, 2);
+    jog(frmaltazpilot::deplacement.cmdhb, 1);
     std::printf("jogs : compteaz %d, comptealt %d, 888 relu %d\n", cmd_moteur::compteaz.valeur(),
                 cmd_moteur::comptealt.valeur(), Inp32(plateforme::registre_donnees).valeur());
 

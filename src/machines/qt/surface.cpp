@@ -1,5 +1,7 @@
 #include "machines/qt/surface.h"
 
+#include "store/touches.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -23,12 +25,27 @@ int code_touche(const QKeyEvent& e) {
     if (cle >= Qt::Key_F1 && cle <= Qt::Key_F24)
         return 112 + cle - Qt::Key_F1;
     static constexpr std::pair<int, int> codes[] = {
-        {Qt::Key_Backspace, 8}, {Qt::Key_Tab, 9},       {Qt::Key_Backtab, 9},  {Qt::Key_Return, 13},
-        {Qt::Key_Enter, 13},    {Qt::Key_Shift, 16},    {Qt::Key_Control, 17}, {Qt::Key_Alt, 18},
-        {Qt::Key_Pause, 19},    {Qt::Key_CapsLock, 20}, {Qt::Key_Escape, 27},  {Qt::Key_PageUp, 33},
-        {Qt::Key_PageDown, 34}, {Qt::Key_End, 35},      {Qt::Key_Home, 36},    {Qt::Key_Left, 37},
-        {Qt::Key_Up, 38},       {Qt::Key_Right, 39},    {Qt::Key_Down, 40},    {Qt::Key_Insert, 45},
-        {Qt::Key_Delete, 46},
+        {Qt::Key_Backspace, 8},
+        {Qt::Key_Tab, 9},
+        {Qt::Key_Backtab, 9},
+        {Qt::Key_Return, 13},
+        {Qt::Key_Enter, 13},
+        {Qt::Key_Shift, 16},
+        {Qt::Key_Control, 17},
+        {Qt::Key_Alt, 18},
+        {Qt::Key_Pause, 19},
+        {Qt::Key_CapsLock, 20},
+        {Qt::Key_Escape, touches::echappement},
+        {Qt::Key_PageUp, touches::page_haut},
+        {Qt::Key_PageDown, touches::page_bas},
+        {Qt::Key_End, touches::fin},
+        {Qt::Key_Home, touches::debut},
+        {Qt::Key_Left, touches::gauche},
+        {Qt::Key_Up, touches::haut},
+        {Qt::Key_Right, touches::droite},
+        {Qt::Key_Down, touches::bas},
+        {Qt::Key_Insert, 45},
+        {Qt::Key_Delete, touches::supprime},
     };
     for (const auto& [touche, code] : codes)
         if (touche == cle)

@@ -52,9 +52,9 @@ shell::entree* vue_qt::ouvre_menu(shell::entree& racine, const shell::entree* de
     return ouvre_surgissant(racine, defaut);
 }
 
-void vue_qt::message(const std::string& texte, titre t) {
+void vue_qt::message(const std::string& texte, shell::titre t) {
     // An empty title would be replaced by the program's name.
-    QMessageBox boite{QMessageBox::NoIcon, t == titre::aucun ? " " : "Velmoria", affiche(texte),
+    QMessageBox boite{QMessageBox::NoIcon, t == shell::titre::aucun ? " " : "Velmoria", affiche(texte),
                       QMessageBox::Ok, principale()};
     boite.setObjectName("message");
     boite.setTextFormat(Qt::PlainText);

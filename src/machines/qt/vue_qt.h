@@ -13,7 +13,7 @@ class vue_qt final : public shell::vue {
     void repeint(shell::panneau& p) override;
     void controle_change(shell::controle& c, shell::aspect a) override;
     shell::entree* ouvre_menu(shell::entree& racine, const shell::entree* defaut) override;
-    void message(const std::string& texte, titre t) override;
+    void message(const std::string& texte, shell::titre t = shell::titre::programme) override;
     plateforme::image charge_image(const std::filesystem::path& chemin) override;
 
     /// The main frame, if it has been shown.

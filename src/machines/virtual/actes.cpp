@@ -34,7 +34,7 @@ shell::champ_surface& surface_de(const std::string& panneau) {
 
 float coordonnee(const std::string& s) {
     constexpr double limite = 1e9; // twips: far beyond any window
-    const double x = base::est_nombre(s) ? base::nombre(s) : 2 * limite;
+    const double x = base::est_nombre(s) ? base::nombre(s, "souris") : 2 * limite;
     if (!(x >= -limite && x <= limite))
         throw ligne_incomprise{"une place en twips était attendue : \"" + s + "\""};
     return static_cast<float>(x);

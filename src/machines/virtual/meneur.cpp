@@ -28,7 +28,7 @@ std::int64_t duree(const std::string& s) {
         if (!s.ends_with(unite))
             continue;
         const auto chiffres = s.substr(0, s.size() - unite.size());
-        const double x = base::est_nombre(chiffres) ? base::nombre(chiffres) * ns : -1;
+        const double x = base::est_nombre(chiffres) ? base::nombre(chiffres, "durée") * ns : -1;
         if (x >= 0 && x <= 9e18)
             return std::llround(x);
     }

@@ -86,7 +86,7 @@ shell::entree* vue_scenario::ouvre_menu(shell::entree& racine, const shell::entr
     return choisie;
 }
 
-void vue_scenario::message(const std::string& texte, titre) {
+void vue_scenario::message(const std::string& texte, shell::titre) {
     sortie_ << "message " << sur_une_ligne(texte) << '\n';
 }
 

@@ -21,7 +21,7 @@ class vue_scenario final : public shell::vue {
     void repeint(shell::panneau&) override {}
     void controle_change(shell::controle& c, shell::aspect a) override;
     shell::entree* ouvre_menu(shell::entree& racine, const shell::entree* defaut) override;
-    void message(const std::string& texte, titre t) override;
+    void message(const std::string& texte, shell::titre t) override;
     image charge_image(const std::filesystem::path& chemin) override;
 
     /// The last drawing made on a surface, also when its panel has gone; empty before the first.
