@@ -1,4 +1,4 @@
-#include "machines/virtual/entete_image.h"
+#include "seam/entete_image.h"
 
 #include <gtest/gtest.h>
 
