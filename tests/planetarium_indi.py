@@ -95,6 +95,22 @@ def vaut(quoi, lu, attendu, tolerance):
         sys.exit(f"{quoi}: {lu}, expected {attendu}")
 
 
+def malmene(port):
+    """Whatever clients do, the next good command is answered, and the driver's connection goes on."""
+    with socket.create_connection(("127.0.0.1", port)) as muet, socket.create_connection(("127.0.0.1", port)) as refuse:
+        refuse.settimeout(5)
+        vaut("a third client", len(refuse.recv(1)), 0, 0)
+        muet.settimeout(5)
+        for rebut in (b"\xff\x00#\x01" * 500, b":" + b"x" * 10_000, b":Sr 12:", b":GD#:GR#" * 5000, b""):
+            muet.sendall(rebut + b":GVP#")
+            lu = b""
+            while not lu.endswith(b"Velmoria#"):
+                morceau = muet.recv(65536)
+                if not morceau:
+                    sys.exit(f"cut after {rebut[:20]}")
+                lu += morceau
+
+
 def choisit_la_monture():
     """A mouse click on the first button of the main frame: the equatorial mode."""
     fenetre = subprocess.check_output(["xdotool", "search", "--sync", "--name", "Pilotage de t"], text=True).split()[0]
@@ -129,6 +145,7 @@ def essai(dossier, lance):
     # A growing right ascension raises its line: the angle falls.
     indi.attend("the mount", lambda: abs(angles(vcd)[0] + 1.25) < 2 / 60 and abs(angles(vcd)[1] - 1) < 2 / 60)
 
+    malmene(port)
     # Stopped on the way back: the target is believed, the mount stands in between.
     indi.envoie("Number", "EQUATORIAL_EOD_COORD", RA=5.6, DEC=-5.4)
     indi.attend("half-way", lambda: 5.61 < indi.place()[0] < 5.66)
