@@ -33,6 +33,8 @@ inline entier32 tempopaddle; ///< delay count of the paddle loops
 inline booleen16 vitchange;  ///< a speed slider was moved since the program started; never set back
 
 inline int jogs = 0; ///< jogs on the stack, one inside the other; bursts and slews apart
+inline int rafales = 0; ///< bursts of a tracking on the stack
+inline int appuis = 0;  ///< presses of a paddle key on the stack
 
 inline entier32 compteaz; ///< steps since they were last folded into the position, signed
 inline entier32 comptealt;

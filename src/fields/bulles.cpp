@@ -178,6 +178,8 @@ constexpr std::array lignes{
     ligne{"frmDepl.cmstoppointage", "Arrête le pointage, dès l'appui (Échap)"},
     ligne{"frmCercle.Label1", "Montre ou cache la légende"},
     ligne{"frmLegend.bFin", "Ferme la légende"},
+    ligne{"frmaide.Label1", "Un clic copie l'adresse"},
+    ligne{"frmcopyright.Label1", "Un clic copie l'adresse"},
     ligne{"Frmnotes.Picturesave", "Enregistre le carnet, dès l'appui"},
     ligne{"Frmnotes.txtnotes", "Le carnet ; la disquette l'enregistre"},
     ligne{"Frmnotes.effacer", "Vide le texte à l'écran, pas le fichier"},

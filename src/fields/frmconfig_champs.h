@@ -29,17 +29,17 @@ inline constinit champ_etiquette lbllatmin{
 inline constinit champ_cadre frmeca{
     fiche, "frmeca", {60, 1185, 3750, 2925}, {.legende = "Paramètres mécaniques"}};
 inline constinit champ_etiquette lblazimut{
-    fiche, "lblazimut", {2220, 240, 690, 270}, {.legende = "Azimut", .cadre = &frmeca}};
+    fiche, "lblazimut", {2340, 240, 690, 270}, {.legende = "Azimut", .cadre = &frmeca}};
 inline constinit champ_etiquette lblaltitude{
     fiche, "lblaltitude", {2970, 240, 720, 270}, {.legende = "Altitude", .cadre = &frmeca}};
 inline constinit champ_etiquette lblpas{
-    fiche, "lblpas", {90, 570, 2085, 270}, {.legende = "Nombre de pas moteur", .cadre = &frmeca}};
-inline constinit champ_texte txtpasaz{fiche, "txtpasaz", {2220, 525, 690, 345}, {.cadre = &frmeca}};
-inline constinit champ_texte txtpasalt{fiche, "txtpasalt", {2970, 525, 690, 345}, {.cadre = &frmeca}};
+    fiche, "lblpas", {60, 570, 2250, 270}, {.legende = "Nombre de pas moteur", .cadre = &frmeca}};
+inline constinit champ_texte txtpasaz{fiche, "txtpasaz", {2340, 525, 600, 345}, {.cadre = &frmeca}};
+inline constinit champ_texte txtpasalt{fiche, "txtpasalt", {3000, 525, 660, 345}, {.cadre = &frmeca}};
 inline constinit champ_etiquette lblrapport{
     fiche, "lblrapport", {90, 945, 2100, 270}, {.legende = "Rapports de réduction", .cadre = &frmeca}};
-inline constinit champ_texte txtRaz{fiche, "txtRaz", {2220, 900, 690, 345}, {.cadre = &frmeca}};
-inline constinit champ_texte txtRalt{fiche, "txtRalt", {2970, 900, 690, 345}, {.cadre = &frmeca}};
+inline constinit champ_texte txtRaz{fiche, "txtRaz", {2340, 900, 600, 345}, {.cadre = &frmeca}};
+inline constinit champ_texte txtRalt{fiche, "txtRalt", {3000, 900, 660, 345}, {.cadre = &frmeca}};
 inline constinit champ_etiquette lblapas{
     fiche, "lblapas", {90, 1275, 1380, 420}, {.legende = "angle d'un pas a ('')", .cadre = &frmeca}};
 inline constinit champ_texte txtapas{fiche, "txtapas", {1500, 1305, 2160, 345}, {.cadre = &frmeca}};
@@ -49,15 +49,15 @@ inline constinit champ_texte txthpas{fiche, "txthpas", {1500, 1740, 2160, 345}, 
 inline constinit champ_etiquette lblplus{
     fiche, "lblplus", {90, 2190, 2100, 270}, {.legende = "sens +", .cadre = &frmeca}};
 inline constinit champ_texte txtazplus{
-    fiche, "txtazplus", {2220, 2145, 690, 345}, {.legende = "0", .cadre = &frmeca}};
+    fiche, "txtazplus", {2340, 2145, 600, 345}, {.legende = "0", .cadre = &frmeca}};
 inline constinit champ_texte txtaltplus{
-    fiche, "txtaltplus", {2970, 2145, 690, 345}, {.legende = "0", .cadre = &frmeca}};
+    fiche, "txtaltplus", {3000, 2145, 660, 345}, {.legende = "0", .cadre = &frmeca}};
 inline constinit champ_etiquette lblmoins{
     fiche, "lblmoins", {90, 2565, 2100, 270}, {.legende = "sens -", .cadre = &frmeca}};
 inline constinit champ_texte txtazmoins{
-    fiche, "txtazmoins", {2220, 2520, 690, 345}, {.legende = "8", .cadre = &frmeca}};
+    fiche, "txtazmoins", {2340, 2520, 600, 345}, {.legende = "8", .cadre = &frmeca}};
 inline constinit champ_texte txtaltmoins{
-    fiche, "txtaltmoins", {2970, 2520, 690, 345}, {.legende = "2", .cadre = &frmeca}};
+    fiche, "txtaltmoins", {3000, 2520, 660, 345}, {.legende = "2", .cadre = &frmeca}};
 
 inline constinit champ_cadre framecodeur{
     fiche, "framecodeur", {60, 4170, 3750, 1110}, {.legende = "Paramètres codeurs"}};
@@ -71,7 +71,7 @@ inline constinit champ_bouton cmdaltencoding{
     fiche, "cmdaltencoding", {2160, 660, 1500, 375}, {.legende = "init alt", .cadre = &framecodeur}};
 
 inline constinit champ_cadre Frobservation{
-    fiche, "Frobservation", {3870, 30, 2985, 3735}, {.legende = "Coordonnées de l'objet observé"}};
+    fiche, "Frobservation", {3870, 30, 3180, 3735}, {.legende = "Coordonnées de l'objet observé"}};
 inline constinit champ_etiquette lblad{
     fiche, "lblad", {120, 315, 450, 270}, {.legende = "A.D", .cadre = &Frobservation}};
 inline constinit champ_texte Txtad_h{fiche, "Txtad_h", {600, 270, 480, 345}, {.cadre = &Frobservation}};
@@ -90,13 +90,13 @@ inline constinit champ_texte txtdec_min{
 inline constinit champ_etiquette lbldec_min{
     fiche, "lbldec_min", {2460, 705, 420, 270}, {.legende = "min", .cadre = &Frobservation}};
 inline constinit champ_liste lbCatalogue{
-    fiche, "lbCatalogue", {120, 1080, 2745, 990}, {.cadre = &Frobservation}};
-inline constinit champ_liste lbObjets{fiche, "lbObjets", {120, 2130, 2745, 1035}, {.cadre = &Frobservation}};
+    fiche, "lbCatalogue", {120, 1080, 2940, 990}, {.cadre = &Frobservation}};
+inline constinit champ_liste lbObjets{fiche, "lbObjets", {120, 2130, 2940, 1035}, {.cadre = &Frobservation}};
 inline constinit champ_bouton cmdchoix{
-    fiche, "cmdchoix", {120, 3225, 2745, 420}, {.cadre = &Frobservation, .image = "choix"}};
+    fiche, "cmdchoix", {120, 3225, 2940, 420}, {.cadre = &Frobservation, .image = "choix"}};
 
 inline constinit champ_bouton cmdinitcoord{
-    fiche, "cmdinitcoord", {3870, 3855, 2985, 420}, {.legende = "initialisation coordonnées"}};
+    fiche, "cmdinitcoord", {3870, 3855, 3180, 420}, {.legende = "initialisation coordonnées"}};
 inline constinit champ_bouton cmdreinit{
     fiche, "cmdreinit", {3870, 4335, 1605, 420}, {.legende = "Réinitialisation"}};
 inline constinit champ_bouton cmdbacklash{

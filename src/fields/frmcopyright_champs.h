@@ -19,7 +19,7 @@ inline constinit champ_etiquette Label2{
 inline constinit champ_etiquette Label4{fiche, "Label4", {1020, 2235, 2680, 270}, {.legende = "Version 2.0"}};
 inline constinit champ_etiquette Label3{
     fiche, "Label3", {150, 2700, 3550, 540}, {.legende = "Les auteurs de Velmoria, licence MIT"}};
-inline constinit champ_etiquette Label1{fiche, "Label1", {150, 3240, 3550, 1260}};
+inline constinit champ_etiquette Label1{fiche, "Label1", {150, 3240, 3550, 1260}, {.traits = copiable}};
 inline constinit champ_bouton cmdok1{fiche, "cmdok1", {1265, 4620, 1320, 420}, {.legende = "OK"}};
 
 inline std::vector<controle*> controles() {

@@ -12,17 +12,17 @@ inline constinit panneau fiche{"frmequaconfig", "Paramètres", 3960, 3525};
 inline constinit champ_cadre frmeca{
     fiche, "frmeca", {60, 30, 3690, 1395}, {.legende = "Paramètres mécaniques"}};
 inline constinit champ_etiquette lblad{
-    fiche, "lblad", {2220, 240, 690, 270}, {.legende = "A.D", .cadre = &frmeca}};
+    fiche, "lblad", {2340, 240, 690, 270}, {.legende = "A.D", .cadre = &frmeca}};
 inline constinit champ_etiquette lbldec{
     fiche, "lbldec", {2955, 240, 690, 270}, {.legende = "Déc.", .cadre = &frmeca}};
 inline constinit champ_etiquette lblpas{
-    fiche, "lblpas", {90, 570, 2100, 270}, {.legende = "Nombre de pas moteur", .cadre = &frmeca}};
-inline constinit champ_texte txtpasad{fiche, "txtpasad", {2220, 525, 690, 345}, {.cadre = &frmeca}};
-inline constinit champ_texte txtpasdec{fiche, "txtpasdec", {2955, 525, 690, 345}, {.cadre = &frmeca}};
+    fiche, "lblpas", {60, 570, 2250, 270}, {.legende = "Nombre de pas moteur", .cadre = &frmeca}};
+inline constinit champ_texte txtpasad{fiche, "txtpasad", {2340, 525, 600, 345}, {.cadre = &frmeca}};
+inline constinit champ_texte txtpasdec{fiche, "txtpasdec", {3000, 525, 645, 345}, {.cadre = &frmeca}};
 inline constinit champ_etiquette lblrapport{
     fiche, "lblrapport", {90, 960, 2100, 270}, {.legende = "Rapports de réduction", .cadre = &frmeca}};
-inline constinit champ_texte txtRad{fiche, "txtRad", {2220, 915, 690, 345}, {.cadre = &frmeca}};
-inline constinit champ_texte txtRdec{fiche, "txtRdec", {2955, 915, 690, 345}, {.cadre = &frmeca}};
+inline constinit champ_texte txtRad{fiche, "txtRad", {2340, 915, 600, 345}, {.cadre = &frmeca}};
+inline constinit champ_texte txtRdec{fiche, "txtRdec", {3000, 915, 645, 345}, {.cadre = &frmeca}};
 
 inline constinit champ_cadre framecodeur{
     fiche, "framecodeur", {60, 1485, 3690, 795}, {.legende = "Paramètres codeurs"}};

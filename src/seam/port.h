@@ -39,6 +39,8 @@ class port {
     virtual void ecrit(int adresse, std::uint8_t valeur) = 0;
     /// The byte the register shows now; never a remembered one.
     virtual std::uint8_t lit(int adresse) = 0;
+    /// False where writes go nowhere.
+    virtual bool atteint() const { return true; }
 };
 
 } // namespace plateforme

@@ -65,8 +65,9 @@ enum style : unsigned {
     separateur = 128, ///< a line in a menu
     sans_vide = 256,  ///< a list whose position cannot be -1
     fond = 512,       ///< lies behind the other controls
-    aplat = 1024,     ///< a flat grey ground
+    aplat = 1024,     ///< a ground of its own
     traverse = 2048,  ///< the mouse goes through it to what lies behind
+    copiable = 4096,  ///< a click copies its text
 };
 
 /// What a control is before anything has touched it.

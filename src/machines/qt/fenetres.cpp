@@ -1,6 +1,7 @@
 #include "machines/qt/fenetres.h"
 
 #include "machines/qt/accord.h"
+#include "machines/qt/etat_barre.h"
 #include "machines/qt/fabrique.h"
 #include "machines/qt/images.h"
 #include "machines/qt/menus.h"
@@ -128,6 +129,7 @@ QWidget* principal(fenetre& f) {
             f.pieces.range(*c, barre_etat(*w, *c));
     }
     remplit_barre(*w->menuBar(), f.fiche, f.pieces);
+    w->menuBar()->setCornerWidget(new etat_barre{w->menuBar()});
     return w;
 }
 

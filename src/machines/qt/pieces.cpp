@@ -4,10 +4,13 @@
 #include "machines/qt/mesures.h"
 #include "machines/qt/nuit.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyleOptionButton>
+#include <QStyledItemDelegate>
 #include <QToolTip>
 #include <utility>
 
@@ -67,12 +70,8 @@ QString secable(const QString& texte) {
 etiquette::etiquette(shell::champ_etiquette& c, QWidget* parent) : QLabel(parent), champ_(c) {
     setTextFormat(Qt::PlainText);
     setWordWrap(!c.a(shell::symbole));
-    if (c.a(shell::symbole))
+    if (c.a(shell::symbole) || c.a(shell::aplat) || c.a(shell::copiable))
         setCursor(Qt::PointingHandCursor);
-    if (c.a(shell::aplat)) {
-        setAutoFillBackground(true);
-        setBackgroundRole(QPalette::Mid);
-    }
 }
 
 void etiquette::ecrit(const std::string& texte) {
@@ -88,8 +87,25 @@ void etiquette::mousePressEvent(QMouseEvent* e) {
 }
 
 void etiquette::mouseReleaseEvent(QMouseEvent* e) {
-    if (e->button() == Qt::LeftButton && rect().contains(e->position().toPoint()) && a_l_ecran(champ_))
-        champ_.relache();
+    if (e->button() != Qt::LeftButton || !rect().contains(e->position().toPoint()) || !a_l_ecran(champ_))
+        return;
+    champ_.relache();
+    if (champ_.a(shell::copiable)) {
+        QApplication::clipboard()->setText(affiche(champ_.regarde_texte()));
+        QToolTip::showText(e->globalPosition().toPoint(), "Adresse copiée", this);
+    }
+}
+
+// A label that is clicked looks like what is clicked.
+void etiquette::paintEvent(QPaintEvent* e) {
+    if (champ_.a(shell::aplat)) {
+        QPainter p{this};
+        QStyleOptionButton o;
+        o.initFrom(this);
+        o.state |= QStyle::State_Raised;
+        style()->drawControl(QStyle::CE_PushButtonBevel, &o, &p, this);
+    }
+    QLabel::paintEvent(e);
 }
 
 void etiquette::resizeEvent(QResizeEvent* e) {
@@ -124,9 +140,28 @@ void page_de_texte::paintEvent(QPaintEvent* e) {
 
 // ---- list
 
+namespace {
+
+// As many whole lines as find room, each a little higher than it needs to be.
+class lignes_entieres final : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& i) const override {
+        const auto s = QStyledItemDelegate::sizeHint(option, i);
+        const int place = static_cast<QListWidget*>(parent())->viewport()->height();
+        const int lignes = std::max(1, place / std::max(1, s.height()));
+        return {s.width(), std::max(s.height(), place / lignes)};
+    }
+};
+
+} // namespace
+
 liste::liste(shell::champ_liste& c, QWidget* parent) : QListWidget(parent), champ_(c) {
     setUniformItemSizes(true);
     setEditTriggers(NoEditTriggers);
+    setItemDelegate(new lignes_entieres{this});
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setTextElideMode(Qt::ElideRight);
 }
 
 void liste::mousePressEvent(QMouseEvent* e) {

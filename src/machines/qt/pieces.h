@@ -26,7 +26,8 @@ class bouton final : public QPushButton {
     bool enfonce_ = false;
 };
 
-/// A label that can be clicked. A text in the symbol font is drawn as the arrows it stands for.
+/// A label that can be clicked, and then looks like a button where it has a ground of its own. A text in the
+/// symbol font is drawn as the arrows it stands for.
 class etiquette final : public QLabel {
   public:
     etiquette(shell::champ_etiquette& c, QWidget* parent);
@@ -36,6 +37,7 @@ class etiquette final : public QLabel {
     void mousePressEvent(QMouseEvent* e) override;
     void mouseReleaseEvent(QMouseEvent* e) override;
     void resizeEvent(QResizeEvent* e) override;
+    void paintEvent(QPaintEvent* e) override;
 
   private:
     void aligne();

@@ -78,14 +78,29 @@ class style_calme final : public QProxyStyle {
     }
     void drawComplexControl(ComplexControl quoi, const QStyleOptionComplex* option, QPainter* p,
                             const QWidget* widget) const override {
-        filtre(*p, option->rect,
-               [&](QPainter& q) { QProxyStyle::drawComplexControl(quoi, option, &q, widget); });
+        filtre(*p, option->rect, [&](QPainter& q) {
+            QProxyStyle::drawComplexControl(quoi, option, &q, widget);
+            if (quoi == CC_ScrollBar)
+                poignee(q, *option, widget);
+        });
     }
     void drawItemPixmap(QPainter* p, const QRect& place, int cadrage, const QPixmap& image) const override {
         filtre(*p, place, [&](QPainter& q) { QProxyStyle::drawItemPixmap(&q, place, cadrage, image); });
     }
 
   private:
+    // A scroll bar's thumb, which the style hardly parts from its groove.
+    void poignee(QPainter& p, const QStyleOptionComplex& o, const QWidget* widget) const {
+        const auto place = subControlRect(CC_ScrollBar, &o, SC_ScrollBarSlider, widget);
+        if (!(o.state & State_Enabled) || place.isEmpty())
+            return;
+        p.setRenderHint(QPainter::Antialiasing);
+        p.setPen(o.palette.color(QPalette::Dark));
+        p.setBrush(nuit() ? o.palette.color(QPalette::Highlight).lighter(140)
+                          : o.palette.color(QPalette::Highlight).lighter(135));
+        p.drawRoundedRect(QRectF{place}.adjusted(1.5, 1.5, -1.5, -1.5), 2, 2);
+    }
+
     template <class F> static void filtre(QPainter& p, const QRect& ou, const F& dessine) {
         if (nuit())
             a_travers_le_filtre(p, ou, dessine);

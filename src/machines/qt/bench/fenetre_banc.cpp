@@ -15,6 +15,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
@@ -22,6 +23,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QToolTip>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <cmath>
@@ -98,7 +100,8 @@ QPushButton* bouton(const char* nom, const QString& texte) {
 
 fenetre_banc::fenetre_banc(etabli& e, horloge_banc& h) : etabli_(e), horloge_(h) {
     setObjectName("banc");
-    setWindowTitle("Velmoria : banc d'essai");
+    setWindowTitle("Velmoria : banc d'essai (F8 le ramène)");
+    qApp->installEventFilter(this);
     auto* contenu = new QWidget;
     auto* colonne = new QVBoxLayout{contenu};
     colonne->addWidget(fait_lignes_du_port());
@@ -122,6 +125,17 @@ fenetre_banc::fenetre_banc(etabli& e, horloge_banc& h) : etabli_(e), horloge_(h)
     rafraichit();
     resize(contenu->sizeHint() + QSize{rouleau->verticalScrollBar()->sizeHint().width(), 0});
     startTimer(periode_ms);
+}
+
+// A key reaches its window first, once, whichever it is.
+bool fenetre_banc::eventFilter(QObject* objet, QEvent* e) {
+    if (e->type() == QEvent::KeyPress && objet->isWindowType() &&
+        static_cast<QKeyEvent*>(e)->key() == Qt::Key_F8) {
+        show();
+        raise();
+        activateWindow();
+    }
+    return false;
 }
 
 // The first time beside the main frame; on a screen too narrow for that, below its toolbars.
@@ -213,10 +227,13 @@ QWidget* fenetre_banc::fait_horloge() {
     auto* revient = bouton("cette_nuit", "Cette nuit");
     const auto met_a_l_heure = [this] {
         const auto i = plateforme::lit_date(date_->text().trimmed().toStdString());
-        if (i)
+        if (i) {
             horloge_.regle(*i);
-        else
-            date_->selectAll(); // not a date: nothing is set
+        } else { // nothing is set
+            date_->selectAll();
+            QToolTip::showText(date_->mapToGlobal(QPoint{0, date_->height()}),
+                               "Date non comprise, rien n'est réglé. Par exemple : 2001-08-15 22:00:00");
+        }
         rafraichit();
     };
     QObject::connect(regle, &QPushButton::clicked, this, met_a_l_heure);

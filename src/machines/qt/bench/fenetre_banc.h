@@ -26,6 +26,8 @@ class fenetre_banc final : public QWidget {
     void enregistre_dans(const QString& chemin);
 
   protected:
+    /// F8, in any window of the program, brings this one back.
+    bool eventFilter(QObject* objet, QEvent* e) override;
     void showEvent(QShowEvent* e) override;
     void timerEvent(QTimerEvent*) override;
     void closeEvent(QCloseEvent*) override;
