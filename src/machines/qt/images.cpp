@@ -11,7 +11,6 @@
 #include <map>
 #include <optional>
 #include <vector>
-#include <vector>
 
 namespace plateforme::qt {
 
