@@ -56,7 +56,8 @@ inline constinit champ_bouton cmdpointage_graph{
 inline std::vector<controle*> controles() {
     return liste(choix, reglages, Frame3, lblcoordaz, txtcoordaz1, lblazdeg, txtcoordaz2, lblazmin,
                  txtcoordaz3, lblazsec, lblcoordalt, txtcoordalt1, lblaltdeg, txtcoordalt2, lblaltmin,
-                 txtcoordalt3, lblaltsec, lbldistaz, txtdistaz, lbldistalt, txtdistalt, cmdpointage_graph);
+                 txtcoordalt3, lblaltsec, lbldistaz, txtdistaz, lbldistalt, txtdistalt, cmdpointage_graph,
+                 reglages.cmdsave, reglages.Cmdquit);
 }
 
 } // namespace frmaltazpointage

@@ -40,7 +40,7 @@ inline constinit champ_etiquette lblpointage{
 
 inline std::vector<controle*> controles() {
     return liste(lbEtoiles, choix, reglages, Frame6, chkpointad, chkpointdec, Picinit, lblinit, picpointage,
-                 lblpointage);
+                 lblpointage, reglages.cmdsave, reglages.Cmdquit);
 }
 
 } // namespace frmequapointage

@@ -32,9 +32,10 @@ struct champs_pointage {
           cmdsave{p, "cmdsave", {3780, 5070, 2400, 450}, {.legende = "Sauvegarde réglages"}},
           Cmdquit{p, "Cmdquit", {6240, 5070, 1200, 450}, {.legende = "Quitter"}} {}
 
+    /// But for the two buttons, which come last.
     std::vector<shell::controle*> controles() {
         return shell::liste(frame5, lblpointaz, cbpointaz, lblpointalt, cbpointalt, Frame2, optcodeur,
-                            optsscodeur, cmdsave, Cmdquit);
+                            optsscodeur);
     }
 };
 

@@ -4,11 +4,17 @@
 #include "fields/frmaltazpilot_champs.h"
 #include "fields/frmequapilot_champs.h"
 #include "fields/frminterface_champs.h"
+#include "machines/qt/mesures.h"
+#include "machines/qt/pieces.h"
 #include "machines/qt/surface.h"
 
+#include <QAbstractSlider>
 #include <QApplication>
 #include <QFocusFrame>
 #include <QKeyEvent>
+#include <QMainWindow>
+#include <QMdiSubWindow>
+#include <QMenuBar>
 #include <QPainter>
 #include <QPointer>
 #include <utility>
@@ -16,6 +22,15 @@
 namespace plateforme::qt {
 
 namespace {
+
+using shell::champ_bouton;
+
+bool dans_la_fenetre_de(const shell::panneau& p, const QWidget& w) {
+    for (const auto* parent = &w; parent; parent = parent->parentWidget())
+        if (const auto* sous = qobject_cast<const QMdiSubWindow*>(parent))
+            return sous->objectName() == affiche(p.nom());
+    return false;
+}
 
 // The stop of a slew, else of the pilot panel of the mount in use, else of the other one. Nothing is loaded.
 bool presse_l_arret() {
@@ -31,16 +46,87 @@ bool presse_l_arret() {
     return false;
 }
 
-// Sees a key before the widget that has the focus, which might take Escape for itself. An open popup or box
-// keeps it.
+// In an active pilot panel, a list, a bar and a field keep the arrows; else each presses its direction, once:
+// a jog goes on until it is stopped, as with the mouse.
+bool presse_une_direction(const QWidget& w, const QKeyEvent& k) {
+    const struct {
+        int touche;
+        champ_bouton& altaz;
+        champ_bouton& equa;
+    } directions[] = {{Qt::Key_Up, frmaltazpilot::cmdhh, frmequapilot::cmdhh},
+                      {Qt::Key_Down, frmaltazpilot::cmdhb, frmequapilot::cmdhb},
+                      {Qt::Key_Left, frmaltazpilot::cmdag, frmequapilot::cmdag},
+                      {Qt::Key_Right, frmaltazpilot::cmdad, frmequapilot::cmdad}};
+    if (k.modifiers() & ~Qt::KeypadModifier || qobject_cast<const QAbstractSlider*>(&w) ||
+        qobject_cast<const QLineEdit*>(&w) || qobject_cast<const QAbstractItemView*>(&w))
+        return false;
+    for (const auto& d : directions)
+        for (auto* bouton : {&d.altaz, &d.equa})
+            if (k.key() == d.touche && w.isVisible() && dans_la_fenetre_de(bouton->fiche(), w)) {
+                if (!k.isAutoRepeat())
+                    bouton->clic();
+                return true;
+            }
+    return false;
+}
+
+// What a right click does, for the keys that stand for it.
+bool clique_a_droite(QWidget* w) {
+    if (auto* l = dynamic_cast<liste*>(w))
+        l->clic_droit();
+    else if (auto* s = dynamic_cast<surface*>(w))
+        s->clic_droit();
+    else
+        return false;
+    return true;
+}
+
+// The menu bar takes the focus, or gives it back.
+bool bascule_la_barre_de_menus(const QWidget& w) {
+    static QPointer<QWidget> avant;
+    const auto* principale = qobject_cast<QMainWindow*>(w.window());
+    if (!principale)
+        return false;
+    auto* barre = principale->menuBar();
+    if (barre->hasFocus()) {
+        if (avant)
+            avant->setFocus(Qt::MenuBarFocusReason);
+        return true;
+    }
+    avant = QApplication::focusWidget();
+    barre->setFocus(Qt::MenuBarFocusReason);
+    barre->setActiveAction(barre->actions().first());
+    return true;
+}
+
+// Sees a key before the widget that has the focus, which might take it for itself. An open popup or box keeps
+// all of them, and the chart, which redraws at every key, gets them too.
 class guet final : public QObject {
   public:
     using QObject::QObject;
     bool eventFilter(QObject* o, QEvent* e) override {
-        if (e->type() != QEvent::KeyPress || static_cast<QKeyEvent*>(e)->key() != Qt::Key_Escape ||
-            !o->isWidgetType() || QApplication::activePopupWidget() || QApplication::activeModalWidget())
+        if (e->type() != QEvent::KeyPress || QApplication::activePopupWidget() ||
+            QApplication::activeModalWidget())
             return false;
-        return presse_l_arret() && !dynamic_cast<surface*>(o); // the chart redraws at every key
+        const auto* premier = QApplication::focusWidget();
+        if (o != (premier ? premier : QApplication::activeWindow()))
+            return false; // on its way up
+        auto* w = static_cast<QWidget*>(o);
+        return agit(w, static_cast<QKeyEvent&>(*e)) && !dynamic_cast<surface*>(w);
+    }
+
+  private:
+    static bool agit(QWidget* w, const QKeyEvent& k) {
+        switch (k.key()) {
+        case Qt::Key_Escape:
+            return qobject_cast<QMenuBar*>(w) ? bascule_la_barre_de_menus(*w) : presse_l_arret();
+        case Qt::Key_Menu:
+            return clique_a_droite(w);
+        case Qt::Key_F10:
+            return k.modifiers() & Qt::ShiftModifier ? clique_a_droite(w) : bascule_la_barre_de_menus(*w);
+        default:
+            return presse_une_direction(*w, k);
+        }
     }
 };
 

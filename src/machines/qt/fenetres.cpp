@@ -7,8 +7,10 @@
 #include "machines/qt/menus.h"
 #include "machines/qt/mesures.h"
 #include "machines/qt/pieces.h"
+#include "machines/qt/places.h"
 #include "machines/qt/style.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDeadlineTimer>
@@ -39,6 +41,18 @@ class cadre_principal final : public QMainWindow {
     void closeEvent(QCloseEvent* e) override {
         e->ignore();
         fiche_.ferme();
+    }
+
+    // From the end of the toolbar the tab key goes on to the panel that is active.
+    bool focusNextPrevChild(bool suivant) override {
+        auto* actif = static_cast<zone*>(centralWidget())->activeSubWindow();
+        auto* outil = QApplication::focusWidget();
+        if (actif && outil && premier_arret_de_tab(*outil->parentWidget(), !suivant) == outil)
+            if (auto* w = premier_arret_de_tab(*actif, suivant)) {
+                w->setFocus(suivant ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+                return true;
+            }
+        return QMainWindow::focusNextPrevChild(suivant);
     }
 
   private:
@@ -99,6 +113,7 @@ QAction* outil(QToolBar& barre, champ_outil& c) {
     });
     auto* touche = barre.widgetForAction(action);
     new montre_bulle{c, touche};
+    touche->setFocusPolicy(Qt::TabFocus);
     touche->setObjectName(affiche(c.nom()));
     touche->setAccessibleName(touche->objectName());
     QObject::connect(action, &QAction::triggered, action, [&c] { c.clic(); });
@@ -133,6 +148,19 @@ QWidget* principal(fenetre& f) {
     return w;
 }
 
+// The stop first, where there is one; else the first control that no arrow key alters.
+void donne_le_focus(fenetre& f) {
+    auto* premier = f.enfant->arret;
+    for (const auto* c : f.fiche.controles()) {
+        const bool calme =
+            c->espece() == genre::texte || c->espece() == genre::bouton || c->espece() == genre::surface;
+        auto* w = f.pieces.widget(*c);
+        if (!premier && calme && w && w->focusPolicy() & Qt::TabFocus && w->isEnabled() && w->isVisible())
+            premier = w;
+    }
+    (premier ? premier : f.enfant->widget())->setFocus(Qt::OtherFocusReason);
+}
+
 QWidget* enfant(fenetre& f, zone& z) {
     auto* w = f.enfant = new sous_fenetre{f.fiche};
     auto* contenu = a_un_dessin(f.fiche) ? new fond_noir{w} : new QWidget{w};
@@ -143,9 +171,12 @@ QWidget* enfant(fenetre& f, zone& z) {
         if (c->a(echap))
             w->arret = f.pieces.widget(*c);
     w->a_la_taille = [&f] {
+        const bool ici = f.enfant->isAncestorOf(QApplication::focusWidget());
         for (const auto* c : f.fiche.controles())
             if (auto* piece = f.pieces.widget(*c))
                 accorde(*c, piece, aspect::visible);
+        if (ici && !f.enfant->isAncestorOf(QApplication::focusWidget()))
+            donne_le_focus(f);
     };
     z.addSubWindow(w);
     w->hide();
@@ -158,19 +189,6 @@ QWidget* accueil(fenetre& f) {
         new QWidget{nullptr, Qt::SplashScreen | Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint};
     remplit(f, w);
     return w;
-}
-
-// The stop first, where there is one; else the first control that no arrow key alters.
-void donne_le_focus(fenetre& f) {
-    auto* premier = f.enfant->arret;
-    for (const auto* c : f.fiche.controles()) {
-        const bool calme =
-            c->espece() == genre::texte || c->espece() == genre::bouton || c->espece() == genre::surface;
-        auto* w = f.pieces.widget(*c);
-        if (!premier && calme && w && w->focusPolicy() & Qt::TabFocus && w->isEnabled() && w->isVisible())
-            premier = w;
-    }
-    (premier ? premier : f.enfant->widget())->setFocus(Qt::OtherFocusReason);
 }
 
 // A frame that opens leaves room for what the window system puts around it.
@@ -204,6 +222,8 @@ void montre(fenetre& f) {
     accorde_taille(f);
     if (f.fiche.options().sans_bord)
         w.move(w.screen()->availableGeometry().center() - w.rect().center());
+    else if (!f.enfant)
+        reprend_sa_place(w);
     if (f.enfant)
         f.enfants->place(*f.enfant);
     w.show();

@@ -8,6 +8,7 @@
 #include "machines/qt/guichet.h"
 #include "machines/qt/images.h"
 #include "machines/qt/nuit.h"
+#include "machines/qt/preferences.h"
 #include "machines/qt/style.h"
 #include "machines/qt/vue_qt.h"
 
@@ -68,6 +69,8 @@ std::unique_ptr<QApplication> ouvre_affichage(int& argc, char** argv) {
 seance::seance(int argc, char** argv, composition c) : argc_(argc), c_(std::move(c)) {
     application_ = ouvre_affichage(argc_, argv);
     prend_les_images();
+    if (c_.apparence.positions_initiales)
+        oublie_les_places();
     ecoute_la_touche_de_nuit(c_.apparence.nuit);
     ecoute_le_clavier();
     QApplication::setApplicationName("Velmoria");

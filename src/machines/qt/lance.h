@@ -20,7 +20,8 @@ class vue_qt;
 
 /// What the observer asks of the windows on the command line.
 struct apparence {
-    bool nuit = false; ///< night colours from the start
+    bool nuit = false;                ///< night colours from the start
+    bool positions_initiales = false; ///< where windows were left is forgotten
 };
 
 /// Where planetariums are listened to: an address in figures, of either family, and a port.

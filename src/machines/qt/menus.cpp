@@ -127,6 +127,17 @@ void ferme_surgissants() {
         QApplication::activePopupWidget()->close();
 }
 
+namespace {
+
+// At the pointer; if a key opened it, in the middle of what has the focus.
+QPoint place_du_surgissant() {
+    const auto souris = QCursor::pos();
+    const auto* w = QApplication::focusWidget();
+    return !w || w->rect().contains(w->mapFromGlobal(souris)) ? souris : w->mapToGlobal(w->rect().center());
+}
+
+} // namespace
+
 entree* ouvre_surgissant(entree& racine, const entree* defaut) {
     entree* choisie = nullptr;
     inventaire pieces{racine.fiche()};
@@ -134,7 +145,7 @@ entree* ouvre_surgissant(entree& racine, const entree* defaut) {
     m.setObjectName(affiche(racine.nom()));
     if (defaut)
         m.setDefaultAction(static_cast<QAction*>(pieces.piece(*defaut)));
-    m.exec(QCursor::pos());
+    m.exec(place_du_surgissant());
     return choisie;
 }
 

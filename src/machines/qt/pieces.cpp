@@ -43,6 +43,17 @@ void ligne_de_texte::focusOutEvent(QFocusEvent* e) {
 
 namespace {
 
+// What is drawn, and has a command, is a button to the keyboard.
+void devient_bouton(QWidget& w, const shell::cliquable& c) {
+    if (c.a_une_commande() && !c.a(shell::traverse))
+        w.setFocusPolicy(Qt::TabFocus);
+}
+
+bool presse(const QKeyEvent& e) {
+    return !e.isAutoRepeat() &&
+           (e.key() == Qt::Key_Space || e.key() == Qt::Key_Return || e.key() == Qt::Key_Enter);
+}
+
 // As for the acts that come by signals: one that comes late does nothing.
 bool a_l_ecran(const shell::controle& c) { return c.fiche().est_visible(); }
 
@@ -72,6 +83,14 @@ etiquette::etiquette(shell::champ_etiquette& c, QWidget* parent) : QLabel(parent
     setWordWrap(!c.a(shell::symbole));
     if (c.a(shell::symbole) || c.a(shell::aplat) || c.a(shell::copiable))
         setCursor(Qt::PointingHandCursor);
+    devient_bouton(*this, c);
+}
+
+void etiquette::keyPressEvent(QKeyEvent* e) {
+    if (presse(*e))
+        champ_.clic();
+    else
+        QLabel::keyPressEvent(e);
 }
 
 void etiquette::ecrit(const std::string& texte) {
@@ -188,8 +207,15 @@ void liste::mouseDoubleClickEvent(QMouseEvent* e) {
         champ_.double_clic(ligne);
 }
 
+void liste::clic_droit() { champ_.droit(currentRow()); }
+
 void liste::keyPressEvent(QKeyEvent* e) {
     const int avant = currentRow();
+    if (avant >= 0 && (e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter)) {
+        if (!e->isAutoRepeat())
+            champ_.double_clic(avant);
+        return;
+    }
     QListWidget::keyPressEvent(e);
     if (currentRow() != avant && currentRow() >= 0)
         champ_.choisit(currentRow());
@@ -197,7 +223,16 @@ void liste::keyPressEvent(QKeyEvent* e) {
 
 // ---- picture
 
-tableau_image::tableau_image(shell::champ_image& c, QWidget* parent) : QWidget(parent), champ_(c) {}
+tableau_image::tableau_image(shell::champ_image& c, QWidget* parent) : QWidget(parent), champ_(c) {
+    devient_bouton(*this, c);
+}
+
+void tableau_image::keyPressEvent(QKeyEvent* e) {
+    if (presse(*e))
+        champ_.clic();
+    else
+        QWidget::keyPressEvent(e);
+}
 
 void tableau_image::montre(const QPixmap& image) {
     image_ = image;

@@ -26,8 +26,8 @@ class bouton final : public QPushButton {
     bool enfonce_ = false;
 };
 
-/// A label that can be clicked, and then looks like a button where it has a ground of its own. A text in the
-/// symbol font is drawn as the arrows it stands for.
+/// A label that can be clicked, by Space and Return too, and then looks like a button where it has a ground of
+/// its own. A text in the symbol font is drawn as the arrows it stands for.
 class etiquette final : public QLabel {
   public:
     etiquette(shell::champ_etiquette& c, QWidget* parent);
@@ -36,6 +36,7 @@ class etiquette final : public QLabel {
   protected:
     void mousePressEvent(QMouseEvent* e) override;
     void mouseReleaseEvent(QMouseEvent* e) override;
+    void keyPressEvent(QKeyEvent* e) override;
     void resizeEvent(QResizeEvent* e) override;
     void paintEvent(QPaintEvent* e) override;
 
@@ -64,10 +65,13 @@ class page_de_texte final : public QPlainTextEdit {
     void paintEvent(QPaintEvent* e) override;
 };
 
-/// A list: a click, a double click, a right click and the arrow keys are the user's acts.
+/// A list: a click, a double click, a right click and the arrow keys are the user's acts; Return is a double
+/// click.
 class liste final : public QListWidget {
   public:
     liste(shell::champ_liste& c, QWidget* parent);
+    /// On the line that is current.
+    void clic_droit();
 
   protected:
     void mousePressEvent(QMouseEvent* e) override;
@@ -80,7 +84,8 @@ class liste final : public QListWidget {
     bool presse_ = false; // the left button went down on it and no double click came of it
 };
 
-/// A picture scaled to its place at the screen's own pixels; a drawn button too.
+/// A picture scaled to its place at the screen's own pixels; a drawn button too,
+/// pressed by Space and Return as well.
 class tableau_image final : public QWidget {
   public:
     tableau_image(shell::champ_image& c, QWidget* parent);
@@ -91,6 +96,7 @@ class tableau_image final : public QWidget {
     void changeEvent(QEvent* e) override;
     void mousePressEvent(QMouseEvent* e) override;
     void mouseReleaseEvent(QMouseEvent* e) override;
+    void keyPressEvent(QKeyEvent* e) override;
 
   private:
     shell::champ_image& champ_;

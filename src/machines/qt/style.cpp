@@ -45,6 +45,8 @@ class style_calme final : public QProxyStyle {
         case SH_DialogButtonBox_ButtonsHaveIcons:
         case SH_ScrollBar_ContextMenu:
             return 0;
+        case SH_MenuBar_AltKeyNavigation:
+            return 1;
         default:
             return QProxyStyle::styleHint(indice, option, widget, retour);
         }

@@ -98,10 +98,16 @@ void surface::changeEvent(QEvent* e) {
     QWidget::changeEvent(e);
 }
 
-void surface::mousePressEvent(QMouseEvent* e) {
-    champ_.presse({static_cast<int>(e->button()),
-                   static_cast<float>(e->position().x() * shell::twips_par_pixel),
-                   static_cast<float>(e->position().y() * shell::twips_par_pixel)});
+void surface::presse(Qt::MouseButton bouton, QPointF ou) {
+    champ_.presse({static_cast<int>(bouton), static_cast<float>(ou.x() * shell::twips_par_pixel),
+                   static_cast<float>(ou.y() * shell::twips_par_pixel)});
+}
+
+void surface::mousePressEvent(QMouseEvent* e) { presse(e->button(), e->position()); }
+
+void surface::clic_droit() {
+    const auto ou = mapFromGlobal(QCursor::pos());
+    presse(Qt::RightButton, rect().contains(ou) ? ou : rect().center());
 }
 
 void surface::keyPressEvent(QKeyEvent* e) {

@@ -17,6 +17,9 @@ class surface final : public QWidget {
     /// Paints the store's drawing, on screen before it returns.
     void montre();
 
+    /// Where the pointer stands, or in the middle if it is elsewhere.
+    void clic_droit();
+
   protected:
     void paintEvent(QPaintEvent* e) override;
     void changeEvent(QEvent* e) override;
@@ -25,6 +28,7 @@ class surface final : public QWidget {
     bool focusNextPrevChild(bool) override { return false; } // the tab key is a key as the others
 
   private:
+    void presse(Qt::MouseButton bouton, QPointF ou);
     QSize taille_voulue() const; // in the screen's pixels
     void peint();
 

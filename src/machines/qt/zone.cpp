@@ -1,11 +1,13 @@
 #include "machines/qt/zone.h"
 
+#include "machines/qt/preferences.h"
 #include "machines/qt/style.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QMouseEvent>
 #include <QMoveEvent>
+#include <QToolBar>
 #include <algorithm>
 #include <limits>
 #include <utility>
@@ -53,7 +55,37 @@ void sous_fenetre::mousePressEvent(QMouseEvent* e) {
 
 void sous_fenetre::mouseReleaseEvent(QMouseEvent* e) {
     QMdiSubWindow::mouseReleaseEvent(e);
-    deplacee |= pos() != prise_;
+    if (pos() == prise_)
+        return;
+    deplacee = true;
+    retient_place(objectName(), geometry());
+}
+
+QWidget* premier_arret_de_tab(QWidget& dans, bool suivant) {
+    const auto apres = [suivant](const QWidget* w) {
+        return suivant ? w->nextInFocusChain() : w->previousInFocusChain();
+    };
+    for (auto* w = apres(&dans); w != &dans; w = apres(w))
+        if (dans.isAncestorOf(w) && w->isVisible() && w->isEnabled() && w->focusPolicy() & Qt::TabFocus)
+            return w;
+    return nullptr;
+}
+
+// The chain of the focus is a ring through all windows: gone round past this one itself, the key has passed
+// the last control, and goes on to the toolbar.
+bool sous_fenetre::focusNextPrevChild(bool suivant) {
+    auto* const avant = QApplication::focusWidget();
+    if (!avant || !QMdiSubWindow::focusNextPrevChild(suivant))
+        return false;
+    const auto* apres = QApplication::focusWidget();
+    bool tour = avant == apres;
+    for (const QWidget* w = avant; w != apres && !tour;
+         w = suivant ? w->nextInFocusChain() : w->previousInFocusChain())
+        tour = w == this;
+    for (auto* barre : tour ? window()->findChildren<QToolBar*>() : QList<QToolBar*>{})
+        if (auto* outil = barre->isVisible() ? premier_arret_de_tab(*barre, suivant) : nullptr)
+            outil->setFocus(suivant ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
 }
 
 // ---- the area
@@ -89,6 +121,8 @@ void zone::ramene(sous_fenetre& w) {
 }
 
 void zone::place(sous_fenetre& w) {
+    if (const auto retenue = place_retenue(w.objectName()); retenue && !std::exchange(w.deplacee, true))
+        w.move(retenue->topLeft());
     if (w.deplacee)
         return ramene(w);
     std::vector<QRect> autres;

@@ -22,11 +22,15 @@ class sous_fenetre final : public QMdiSubWindow {
     void resizeEvent(QResizeEvent* e) override;
     void mousePressEvent(QMouseEvent* e) override;
     void mouseReleaseEvent(QMouseEvent* e) override;
+    bool focusNextPrevChild(bool suivant) override;
 
   private:
     shell::panneau& fiche_;
     QPoint prise_; // where it was when the mouse went down on its title bar or its edge
 };
+
+/// The first (or, going back, the last) control inside that the tab key stops at; null if there is none.
+QWidget* premier_arret_de_tab(QWidget& dans, bool suivant);
 
 class zone final : public QMdiArea {
   public:

@@ -9,6 +9,8 @@
 #include "machines/qt/guichet.h"
 #include "machines/qt/mesures.h"
 #include "machines/qt/pieces.h"
+#include "machines/qt/places.h"
+#include "machines/qt/preferences.h"
 
 #include <QApplication>
 #include <QDir>
@@ -141,6 +143,8 @@ bool fenetre_banc::eventFilter(QObject* objet, QEvent* e) {
 // The first time beside the main frame; on a screen too narrow for that, below its toolbars.
 void fenetre_banc::showEvent(QShowEvent* e) {
     QWidget::showEvent(e);
+    if (!placee_)
+        placee_ = plateforme::qt::reprend_sa_place(*this);
     constexpr int bordure = 8; // at each side, and above, what the window system may put around a window
     constexpr int titre = 32;
     for (auto* w : QApplication::topLevelWidgets()) {
@@ -148,7 +152,8 @@ void fenetre_banc::showEvent(QShowEvent* e) {
         if (!principale || !principale->isVisible() || std::exchange(placee_, true))
             continue;
         const auto ecran = w->screen()->availableGeometry();
-        w->move(ecran.topLeft());
+        if (!plateforme::qt::place_retenue(w->objectName()))
+            w->move(ecran.topLeft());
         const int a_cote = ecran.left() + w->width() + 2 * bordure;
         const int x = std::min(a_cote, ecran.right() + 1 - bordure - width());
         const int y = ecran.top() + (x < a_cote ? titre + principale->centralWidget()->y() : 0);
