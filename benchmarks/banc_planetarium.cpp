@@ -91,10 +91,10 @@ class client {
 // Pulses a second of a jog with this count.
 double jog(banc::port_simule& port, int compte, int ms) {
     cmd_moteur::vitesseequa.fill(cmd_moteur::entier32{compte});
-    QTimer::singleShot(ms, [] { frmequapilot::cmddstop.appuie(); });
+    QTimer::singleShot(ms, [] { frmequapilot::deplacement.cmddstop.appuie(); });
     const auto e = port.total_ecritures();
     const auto debut = horloge_mono::now();
-    frmequapilot::cmdad.clic();
+    frmequapilot::deplacement.cmdad.clic();
     return static_cast<double>(port.total_ecritures() - e) / 2 / mesure::secondes_depuis(debut);
 }
 

@@ -15,7 +15,7 @@ import tempfile
 import time
 
 BANC = sys.argv[1]
-PULSE = 6.48  # arcseconds of either axis: 500 x 400 pulses a turn, the delivered mechanics
+PULSE = 4.5  # arcseconds of either axis: 720 x 400 pulses a turn, the delivered mechanics
 MONTURE = "LX200 Basic"
 
 

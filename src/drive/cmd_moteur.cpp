@@ -54,18 +54,10 @@ void lit_inversion() {
     invalt = alt;
 }
 
-// Counted among the `jogs` as long as it lives.
-struct jog_en_cours {
-    jog_en_cours() { ++jogs; }
-    ~jog_en_cours() { --jogs; }
-    jog_en_cours(const jog_en_cours&) = delete;
-    jog_en_cours& operator=(const jog_en_cours&) = delete;
-};
-
 void compte(const axe& a) { a.compte = {a.compte + (sensplus ? 1 : -1), "pas comptés"}; }
 
 void jog(void (*vitesse)(), void (*compte)()) {
-    const jog_en_cours ici;
+    const en_cours ici{jogs};
     fixesens();
     vitesse();
     while (cmdsens != 0) {
@@ -78,6 +70,7 @@ void jog(void (*vitesse)(), void (*compte)()) {
 }
 
 void rafale(const axe& a, double ecart, entier16 nombre, const entier32& tempo) {
+    const en_cours ici{rafales};
     bitsens = ecart > 0 ? a.plus : a.moins;
     const char* champ = ecart > 0 ? a.nom_plus : a.nom_moins;
     for (int i = 1; i <= nombre.valeur(); ++i) {

@@ -32,9 +32,21 @@ inline entier32 tempopas;    ///< delay count of the jogs and of the sidereal dr
 inline entier32 tempopaddle; ///< delay count of the paddle loops
 inline booleen16 vitchange;  ///< a speed slider was moved since the program started; never set back
 
-inline int jogs = 0; ///< jogs on the stack, one inside the other; bursts and slews apart
+inline int jogs = 0;    ///< jogs on the stack, one inside the other; bursts and slews apart
 inline int rafales = 0; ///< bursts of a tracking on the stack
 inline int appuis = 0;  ///< presses of a paddle key on the stack
+
+/// Counts one more motion of a kind as long as it lives.
+class en_cours {
+  public:
+    explicit en_cours(int& combien) : combien_(combien) { ++combien_; }
+    ~en_cours() { --combien_; }
+    en_cours(const en_cours&) = delete;
+    en_cours& operator=(const en_cours&) = delete;
+
+  private:
+    int& combien_;
+};
 
 inline entier32 compteaz; ///< steps since they were last folded into the position, signed
 inline entier32 comptealt;

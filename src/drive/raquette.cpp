@@ -54,6 +54,7 @@ void presse(const touche& t) {
 
 // The data register is read first. What a handler changes in a yield acts at the next use.
 void boucle(const axe& a, void (*compte)()) {
+    const en_cours ici{appuis};
     a.jeu = 0;
     const entier16 lues = Inp32(registre_donnees);
     entier16 v{lues + Inp32(registre_controle) - baselinepaddle, "code de la raquette"};

@@ -21,9 +21,9 @@ const char* mouvement() {
         return "déplacement";
     if (cmd_moteur::appuis > 0)
         return "touche de raquette";
-    if (cmd_moteur::rafales > 0 || frmaltazsuivi::timcompteur.regarde_marche())
+    if (cmd_moteur::rafales > 0 || frmaltazsuivi::timcompteur.regarde().marche)
         return "suivi";
-    if (frmequapilot::timersuivi.regarde_marche())
+    if (frmequapilot::timersuivi.regarde().marche)
         return "suivi sidéral";
     return "à l'arrêt";
 }
@@ -47,7 +47,7 @@ std::string ligne() {
         ajoute(mouvement());
     }
     if (m == monture::altazimutale) {
-        if (frmcoord::txtessai.regarde_texte().empty())
+        if (frmcoord::txtessai.regarde().texte.empty())
             ajoute("almanach non lu");
         if (sens_non_pris())
             ajoute("sens non pris");

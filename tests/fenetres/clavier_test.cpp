@@ -76,7 +76,7 @@ TEST_F(clavier, an_arrow_jogs_until_escape_but_belongs_to_a_bar) {
     frappe(Qt::Key_Up, Qt::ControlModifier);
     piece("frmaltazpilot", "slaz")->setFocus();
     frappe(Qt::Key_Left);
-    EXPECT_EQ(frmaltazpilot::slaz.valeur(), 2);
+    EXPECT_EQ(frmaltazpilot::azimut.curseur.valeur(), 2);
     EXPECT_EQ(port.impulsions, alors);
 }
 

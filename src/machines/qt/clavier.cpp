@@ -53,10 +53,10 @@ bool presse_une_direction(const QWidget& w, const QKeyEvent& k) {
         int touche;
         champ_bouton& altaz;
         champ_bouton& equa;
-    } directions[] = {{Qt::Key_Up, frmaltazpilot::cmdhh, frmequapilot::cmdhh},
-                      {Qt::Key_Down, frmaltazpilot::cmdhb, frmequapilot::cmdhb},
-                      {Qt::Key_Left, frmaltazpilot::cmdag, frmequapilot::cmdag},
-                      {Qt::Key_Right, frmaltazpilot::cmdad, frmequapilot::cmdad}};
+    } directions[] = {{Qt::Key_Up, frmaltazpilot::deplacement.cmdhh, frmequapilot::deplacement.cmdhh},
+                      {Qt::Key_Down, frmaltazpilot::deplacement.cmdhb, frmequapilot::deplacement.cmdhb},
+                      {Qt::Key_Left, frmaltazpilot::deplacement.cmdag, frmequapilot::deplacement.cmdag},
+                      {Qt::Key_Right, frmaltazpilot::deplacement.cmdad, frmequapilot::deplacement.cmdad}};
     if (k.modifiers() & ~Qt::KeypadModifier || qobject_cast<const QAbstractSlider*>(&w) ||
         qobject_cast<const QLineEdit*>(&w) || qobject_cast<const QAbstractItemView*>(&w))
         return false;

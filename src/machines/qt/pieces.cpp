@@ -1,6 +1,7 @@
 #include "machines/qt/pieces.h"
 
 #include "fields/bulles.h"
+#include "fields/fleches.h"
 #include "machines/qt/mesures.h"
 #include "machines/qt/nuit.h"
 
@@ -97,7 +98,7 @@ void etiquette::ecrit(const std::string& texte) {
     if (!champ_.a(shell::symbole))
         setText(secable(affiche(texte)));
     else
-        setText(texte == "7" ? "◀◀" : texte == "8" ? "▶▶" : affiche(texte));
+        setText(texte == fleches::referme ? "◀◀" : texte == fleches::ouvre ? "▶▶" : affiche(texte));
 }
 
 void etiquette::mousePressEvent(QMouseEvent* e) {
@@ -110,7 +111,7 @@ void etiquette::mouseReleaseEvent(QMouseEvent* e) {
         return;
     champ_.relache();
     if (champ_.a(shell::copiable)) {
-        QApplication::clipboard()->setText(affiche(champ_.regarde_texte()));
+        QApplication::clipboard()->setText(affiche(champ_.regarde().texte));
         QToolTip::showText(e->globalPosition().toPoint(), "Adresse copiée", this);
     }
 }

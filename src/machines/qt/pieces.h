@@ -26,8 +26,8 @@ class bouton final : public QPushButton {
     bool enfonce_ = false;
 };
 
-/// A label that can be clicked, by Space and Return too, and then looks like a button where it has a ground of
-/// its own. A text in the symbol font is drawn as the arrows it stands for.
+/// A label that can be clicked, by Space and Return too, and then looks like a button where it has a ground
+/// of its own. A text in the symbol font is drawn as the arrows it stands for.
 class etiquette final : public QLabel {
   public:
     etiquette(shell::champ_etiquette& c, QWidget* parent);
