@@ -151,7 +151,7 @@ int main(int argc, char** argv) {
     composition.donnees = DONNEES;
     plateforme::qt::seance s{argc, argv, std::move(composition)};
     s.demarre();
-    banc::fenetre_banc fenetre{etabli, horloge};
+    banc::fenetre_banc fenetre{etabli, horloge, [] { return "non mesurée"; }};
     fenetre.show();
     frminterface::barchoix_boutons(2).clic();
     std::printf("plateforme %s\n", qPrintable(QGuiApplication::platformName()));

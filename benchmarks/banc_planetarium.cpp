@@ -148,7 +148,7 @@ int main(int argc, char** argv) {
     plateforme::qt::seance s{argc, argv, std::move(composition)};
     base::installe_gestionnaire(nullptr);
     s.demarre();
-    banc::fenetre_banc fenetre{etabli, horloge};
+    banc::fenetre_banc fenetre{etabli, horloge, [] { return "non mesurée"; }};
     fenetre.show();
     frminterface::barchoix_boutons(1).clic();
     frminterface::barequa_boutons(3).clic();

@@ -57,4 +57,4 @@ mkdir -p "$menu"
 entree velmoria-aujourdhui "Velmoria" "Conduire le télescope par le port parallèle" velmoria-256.png
 entree velmoria-banc "Velmoria, banc d'essai" "Apprendre et essayer, sans rien brancher" velmoria-banc-256.png
 echo "Velmoria et « Velmoria, banc d'essai » sont au menu."
-echo "Pour le vrai port, une fois : sudo setcap cap_sys_rawio+ep '$(printf '%s' "$ici" | sed "s/'/'\\\\''/g")/velmoria-aujourdhui'"
+echo "Pour le vrai port, une fois : sudo setcap cap_sys_rawio,cap_sys_nice+ep '$(printf '%s' "$ici" | sed "s/'/'\\\\''/g")/velmoria-aujourdhui'"

@@ -1,7 +1,7 @@
 #include "drive/mode_raquette.h"
 
 #include "drive/cmd_moteur.h"
-#include "fields/frminterface_champs.h"
+#include "drive/raquette.h"
 #include "fields/frmraquette_champs.h"
 
 namespace reglages {
@@ -9,7 +9,7 @@ namespace reglages {
 void prend_raquette() {
     cmd_moteur::port_a_la_raquette();
     frmraquette::fiche.montre();
-    frminterface::Timer.marche(true);
+    cmd_moteur::demarre_scrutation();
 }
 
 void mesure_jeu() {
@@ -17,7 +17,7 @@ void mesure_jeu() {
     frmraquette::fiche.montre();
     frmraquette::fiche.largeur(frmraquette::largeur_ouverte);
     frmraquette::lblbacklash.legende(fleches::referme);
-    frminterface::Timer.marche(true);
+    cmd_moteur::demarre_scrutation();
 }
 
 } // namespace reglages

@@ -2,11 +2,14 @@
 
 #include "drive/axe.h"
 #include "drive/cmd_moteur.h"
+#include "fields/frminterface_champs.h"
 #include "fields/frmraquette_champs.h"
 #include "seam/plateforme.h"
+#include "store/vue.h"
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace cmd_moteur {
 
@@ -87,6 +90,14 @@ void scruteraquette() {
                                  [](const touche& x) { return codepaddle == x.code; });
     if (t != std::end(touches))
         presse(*t);
+}
+
+void demarre_scrutation() {
+    static bool dit = false;
+    frminterface::Timer.marche(true);
+    const auto raison = plateforme::courante.port->raquette_invisible();
+    if (!raison.empty() && !std::exchange(dit, true))
+        shell::vue_courante->message(raison);
 }
 
 void paddleaz() { boucle(azimut, comptepasaz); }

@@ -12,6 +12,9 @@ namespace cmd_moteur {
 /// `sensplus`, which is cleared.
 void scruteraquette();
 
+/// Starts the scan. The first time in a run, on a port through which no key can be seen, one box says why.
+void demarre_scrutation();
+
 /// Step loops with the delay `tempopaddle`, as long as the registers make `codepaddle`. Each step is counted
 /// in `compteaz`, `jeucourantaz` and `pasencodeaz` (or those of altitude). The step in which the key is let
 /// go is finished and counted.

@@ -101,7 +101,7 @@ void mode_raquette() {
     cmd_moteur::port_a_la_raquette();
     decharge_panneaux();
     frmraquette::fiche.montre();
-    Timer.marche(true);
+    cmd_moteur::demarre_scrutation();
 }
 
 void mode_equatorial() {
@@ -180,7 +180,7 @@ void general_raquette() {
     fiche.hauteur(8000);
     fiche.largeur(11000);
     frmraquette::fiche.montre();
-    Timer.marche(true);
+    cmd_moteur::demarre_scrutation();
 }
 
 void general_altazimutal() {

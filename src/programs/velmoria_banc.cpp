@@ -1,6 +1,7 @@
 // The full program on the bench: nothing needs to be connected.
-#include "machines/linux/attente_precise.h"
+#include "machines/linux/droits.h"
 #include "machines/linux/horloge_systeme.h"
+#include "machines/linux/temps_reel.h"
 #include "machines/qt/bench/composition.h"
 #include "machines/qt/bench/fenetre_banc.h"
 #include "machines/qt/fin.h"
@@ -8,6 +9,7 @@
 #include "programs/options_fenetres.h"
 #include "sky/heure.h"
 
+#include <cstdio>
 #include <optional>
 
 int main(int argc, char** argv) {
@@ -27,9 +29,13 @@ int main(int argc, char** argv) {
                                  }});
     if (const auto statut = options::lit(programme, argc, argv).statut)
         return *statut;
+    plateforme::attente_prioritaire attente;
+    if (!plateforme::abandonne_droits()) {
+        std::fprintf(stderr, "%s\n", plateforme::message_droits_gardes.data());
+        return 1;
+    }
     banc::horloge_banc horloge{plateforme::temps_systeme(),
                                [] { return int{general::decalageheure.valeur()}; }};
-    plateforme::attente_precise attente;
     banc::etabli etabli{plateforme::horloge_monotone};
     std::optional<banc::fenetre_banc> fenetre; // widgets need the application object first
     plateforme::qt::a_la_fin([&etabli] { etabli.cesse_d_enregistrer(); });
@@ -37,7 +43,7 @@ int main(int argc, char** argv) {
     composition.apparence = apparence;
     composition.planetarium = planetarium;
     composition.ensuite = [&] {
-        fenetre.emplace(etabli, horloge).show();
+        fenetre.emplace(etabli, horloge, [&] { return plateforme::libelle(attente.dernier()); }).show();
         if (!enregistrement.empty())
             fenetre->enregistre_dans(QString::fromStdString(enregistrement));
     };

@@ -16,6 +16,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 namespace plateforme {
 
@@ -41,6 +42,8 @@ class port {
     virtual std::uint8_t lit(int adresse) = 0;
     /// False where writes go nowhere.
     virtual bool atteint() const { return true; }
+    /// Why no paddle key can be seen through this port, for the observer; empty if they are seen.
+    virtual std::string raquette_invisible() const { return {}; }
 };
 
 } // namespace plateforme

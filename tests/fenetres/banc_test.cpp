@@ -47,14 +47,17 @@ class banc_d_essai : protected machine_du_banc, public essais::fenetres {
     banc_d_essai() : fenetres(composition()) {}
     void SetUp() override {
         fenetres::SetUp();
-        fenetre = std::make_unique<banc::fenetre_banc>(etabli, civile);
+        fenetre = std::make_unique<banc::fenetre_banc>(etabli, civile, [] { return "non"; });
         fenetre->show();
         fenetre->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(fenetre.get()));
     }
 
     template <class W> W* le(const char* nom) { return fenetre->findChild<W*>(nom); }
-    std::string lu(const char* nom) { return le<QLabel>(nom)->text().toStdString(); }
+    std::string lu(const char* nom) {
+        const auto* etiquette = le<QLabel>(nom);
+        return (etiquette ? etiquette->text() : le<QWidget>(nom)->accessibleDescription()).toStdString();
+    }
     void presse(const char* nom) { QTest::mouseClick(le<QPushButton>(nom), Qt::LeftButton); }
     void ecrit(const char* nom, const char* texte) {
         le<QLineEdit>(nom)->selectAll();

@@ -7,14 +7,17 @@
 #include <cstring>
 #include <fcntl.h>
 #include <fstream>
+#include <grp.h>
 #include <iterator>
 #include <linux/capability.h>
 #include <linux/filter.h>
 #include <linux/seccomp.h>
 #include <string>
+#include <sys/io.h>
 #include <sys/mount.h>
 #include <sys/prctl.h>
 #include <sys/reboot.h>
+#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <sys/xattr.h>
@@ -44,6 +47,30 @@ void setcap(bool accorde) {
           "setcap");
 }
 
+/// Between two braces on the serial line, which the emulator's log shows too, the port is the kernel's.
+void entre_accolades(long resultat, const std::string& module) {
+    exige(resultat == 0, module.c_str());
+    std::printf("}\n");
+    tcdrain(1);
+}
+void charge(const std::string& module, const char* reglages = "") {
+    std::printf("{");
+    tcdrain(1);
+    const int d = open(("/modules/" + module + ".ko").c_str(), O_RDONLY);
+    entre_accolades(syscall(SYS_finit_module, d, reglages, 0), module);
+}
+void retire(const char* module) {
+    std::printf("{");
+    tcdrain(1);
+    entre_accolades(syscall(SYS_delete_module, module, 0), module);
+}
+
+/// The device belongs to the group lp, as Debian makes it.
+void charge_ppdev() {
+    charge("ppdev");
+    exige(chown("/dev/parport0", 0, 7) == 0 && chmod("/dev/parport0", 0660) == 0, "/dev/parport0");
+}
+
 /// From here on `ioperm` answers as in a kernel built without it.
 void retire_ioperm() {
     sock_filter filtre[] = {BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
@@ -54,55 +81,83 @@ void retire_ioperm() {
     exige(prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &regle) == 0, "seccomp");
 }
 
-pid_t lance(const char* titre, uid_t utilisateur, bool attend = false, bool sans_ioperm = false) {
+struct reglage {
+    uid_t utilisateur = 1000;
+    const char* option = nullptr;
+    bool attend = false;
+    bool sans_ioperm = false;
+};
+
+pid_t lance(const char* titre, reglage r = {}) {
     std::printf("-- %s\n", titre);
     const pid_t enfant = fork();
     exige(enfant >= 0, "fork");
     if (enfant == 0) {
-        if (sans_ioperm)
+        if (r.sans_ioperm)
             retire_ioperm();
-        exige(setgid(utilisateur) == 0 && setuid(utilisateur) == 0, "setuid");
-        if (attend)
+        const gid_t lp = 7;
+        exige(setgroups(1, &lp) == 0 && setgid(r.utilisateur) == 0 && setuid(r.utilisateur) == 0, "setuid");
+        if (r.attend)
             setenv("VELMORIA_ATTEND", "1", 1);
-        execl(programme, programme, nullptr);
+        execl(programme, programme, r.option, nullptr);
         exige(false, programme);
     }
     return enfant;
 }
 
+/// Where the program stops to be pressed a key: the key 9, behind the kernel's back, if the kernel allows.
 void conclut(pid_t enfant) {
     int etat = 0;
-    exige(waitpid(enfant, &etat, 0) == enfant, "waitpid");
-    if (WIFEXITED(etat))
-        std::printf("statut %d\n", WEXITSTATUS(etat));
-    else
-        std::printf("signal %d\n", WTERMSIG(etat));
+    while (waitpid(enfant, &etat, WUNTRACED) == enfant && WIFSTOPPED(etat)) {
+        if (ioperm(0x37a, 1, 1) == 0)
+            outb(9, 0x37a);
+        ioperm(0x37a, 1, 0);
+        kill(enfant, SIGCONT);
+    }
+    if (!WIFEXITED(etat) || WEXITSTATUS(etat) != 0)
+        std::printf("statut %d, signal %d\n", WEXITSTATUS(etat), WTERMSIG(etat));
 }
 
 void noyau_ordinaire() {
-    const pid_t premier = lance("avec le droit", 1000, true);
+    const pid_t premier = lance("avec le droit, le noyau n'indique aucun port", {.attend = true});
     int etat = 0;
     exige(waitpid(premier, &etat, WUNTRACED) == premier && WIFSTOPPED(etat), "premier programme");
-    conclut(lance("un second, d'un autre utilisateur, pendant que le premier tient le port", 1001));
-    std::printf("-- le premier reprend\n");
+    conclut(lance("un second, d'un autre, pendant que le premier tient le port", {.utilisateur = 1001}));
     kill(premier, SIGCONT);
     conclut(premier);
+    exige(chown("/dev/port", 1000, 1000) == 0, "/dev/port");
+    conclut(lance("par /dev/port", {.option = "--port=0x278", .sans_ioperm = true}));
+    exige(unlink("/dev/port") == 0, "/dev/port");
+    conclut(lance("ni ioperm ni /dev/port", {.sans_ioperm = true}));
+
+    charge("parport");
+    charge("parport_pc", "io=0xd010");
+    conclut(lance("un seul port, à 0xd010"));
+    conclut(lance("une adresse qui n'est pas celle d'un port", {.option = "--port=0x3f8"}));
+    retire("parport_pc");
+    charge("parport_pc", "io=0x278,0xd010");
+    conclut(lance("deux ports"));
+    conclut(lance("deux ports, le premier choisi", {.option = "--port=632"}));
+    retire("parport_pc");
 
     setcap(false);
-    conclut(lance("sans le droit", 1000));
-    setcap(true);
-    exige(chown("/dev/port", 1000, 1000) == 0, "/dev/port");
-    conclut(lance("noyau sans ioperm, /dev/port permis", 1000, false, true));
-    exige(unlink("/dev/port") == 0, "/dev/port");
-    conclut(lance("ni ioperm ni /dev/port", 1000, false, true));
+    charge("parport_pc", "io=0x378");
+    charge("lp");
+    charge_ppdev();
+    conclut(lance("sans le droit, le pilote d'imprimante tient le port"));
+    retire("lp");
+    conclut(lance("sans le droit, par /dev/parport0, une touche tenue"));
 }
 
 void noyau_verrouille() {
-    conclut(lance("integrity, avec le droit", 1000));
-    conclut(lance("integrity, administrateur", 0));
+    conclut(lance("integrity, avec le droit"));
     exige(static_cast<bool>(std::ofstream{fichier_verrou} << "confidentiality" << std::flush),
           fichier_verrou);
-    conclut(lance("confidentiality, administrateur", 0));
+    conclut(lance("confidentiality, administrateur", {.utilisateur = 0}));
+    charge("parport");
+    charge("parport_pc");
+    charge_ppdev();
+    conclut(lance("confidentiality, par /dev/parport0"));
 }
 
 } // namespace
@@ -110,10 +165,6 @@ void noyau_verrouille() {
 int main() {
     mount("dev", "/dev", "devtmpfs", 0, nullptr);
     const int ligne = open("/dev/ttyS1", O_RDWR);
-    termios reglage{};
-    tcgetattr(ligne, &reglage);
-    cfmakeraw(&reglage);
-    tcsetattr(ligne, TCSANOW, &reglage);
     for (const int d : {0, 1, 2})
         dup2(ligne, d);
     setvbuf(stdout, nullptr, _IONBF, 0); // children must not inherit half a line

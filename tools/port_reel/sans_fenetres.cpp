@@ -10,6 +10,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <functional>
 #include <initializer_list>
@@ -50,19 +51,24 @@ class vue_absente final : public shell::vue {
     void controle_change(shell::controle&, shell::aspect) override {}
     shell::entree* ouvre_menu(shell::entree&, const shell::entree*) override { return nullptr; }
     void message(const std::string& texte, shell::titre) override {
-        std::printf("message : %s\n", texte.c_str());
+        std::printf("boîte : %s\n", texte.c_str());
     }
     plateforme::image charge_image(const std::filesystem::path&) override { return {1, 10, 10, 96}; }
 };
 
-/// What the process may still do: its own sets of capabilities, as the kernel tells them.
+/// What the process may still do, if anything: the sets of capabilities of its threads, as the kernel tells
+/// them.
 void montre_droits() {
-    std::ifstream etat{"/proc/self/status"};
-    std::printf("droits :");
-    for (std::string ligne; std::getline(etat, ligne);)
-        if (ligne.starts_with("Cap") && !ligne.starts_with("CapBnd"))
-            std::printf(" %s %s", ligne.substr(3, 3).c_str(), ligne.substr(8).c_str());
-    std::printf("\n");
+    std::string restent;
+    for (const auto& fil : std::filesystem::directory_iterator{"/proc/self/task"}) {
+        std::ifstream etat{fil.path() / "status"};
+        for (std::string ligne; std::getline(etat, ligne);)
+            if (ligne.starts_with("Cap") && !ligne.starts_with("CapBnd") &&
+                ligne.find_first_not_of("0", 8) < ligne.size())
+                restent += " " + ligne;
+    }
+    if (!restent.empty())
+        std::printf("droits :%s\n", restent.c_str());
 }
 
 void observe(boucle_reelle& boucle) {
@@ -75,12 +81,15 @@ void observe(boucle_reelle& boucle) {
         bouton.clic();
     };
     const auto relit = [](int registre, std::initializer_list<int> valeurs) {
-        std::printf("%d :", registre);
+        std::printf(" ; %d", registre);
         for (const int v : valeurs) {
             Out32(registre, v);
-            std::printf(" %d relu %d", v, Inp32(registre).valeur());
+            std::printf(" %d", Inp32(registre).valeur());
         }
-        std::printf("\n");
+    };
+    const auto scrute = [] {
+        frminterface::Timer.tic();
+        std::printf(" %d", cmd_moteur::codepaddle.valeur());
     };
     frminterface::barchoix_boutons(2).clic();
     frminterface::baraltaz_boutons(3).clic();
@@ -88,22 +97,26 @@ void observe(boucle_reelle& boucle) {
     jog(frmaltazpilot::deplacement.cmdag, 2);
     jog(frmaltazpilot::deplacement.cmdhh, 2);
     jog(frmaltazpilot::deplacement.cmdhb, 1);
-    std::printf("jogs : compteaz %d, comptealt %d, 888 relu %d\n", cmd_moteur::compteaz.valeur(),
-                cmd_moteur::comptealt.valeur(), Inp32(plateforme::registre_donnees).valeur());
+    const int relu = Inp32(plateforme::registre_donnees).valeur();
 
-    // No key; then the medium azimuth key, 9, for two steps, played by writing to the lines it would pull.
+    // No key; then the medium azimuth key, 9, for two steps, played by writing to the lines it would pull, or
+    // by who waits for this process to stop, where what is written is not what shows.
     frminterface::baraltaz_boutons(2).clic();
-    frminterface::Timer.tic();
-    std::printf("raquette : code %d", cmd_moteur::codepaddle.valeur());
-    Out32(plateforme::registre_controle, 9);
+    std::printf("jogs %d %d %d ; raquette", cmd_moteur::compteaz.valeur(), cmd_moteur::comptealt.valeur(),
+                relu);
+    scrute();
+    if (!plateforme::courante.port->raquette_invisible().empty())
+        raise(SIGSTOP);
+    else
+        Out32(plateforme::registre_controle, 9);
     apres(2, [] { Out32(plateforme::registre_controle, 11); });
-    frminterface::Timer.tic();
-    std::printf(", %d", cmd_moteur::codepaddle.valeur());
-    frminterface::Timer.tic();
-    std::printf(", %d, compteaz %d\n", cmd_moteur::codepaddle.valeur(), cmd_moteur::compteaz.valeur());
+    scrute();
+    scrute();
+    std::printf(", %d pas", cmd_moteur::compteaz.valeur());
 
     relit(plateforme::registre_donnees, {255, 170, 85, 0});
     relit(plateforme::registre_controle, {0, 1, 11});
+    std::printf("\n");
     frminterface::Quitter.clic();
 }
 

@@ -1,32 +1,50 @@
-// The real parallel port of a Linux PC, by raw access to its registers.
-//
-// The kernel's own parallel-port driver is not used: it answers reads of the control register from a copy of
-// what was written, so a paddle key could never be seen.
+// The real parallel port of a Linux PC, by the first of three roads that is open: the processor's
+// instructions
+// (`ioperm`), the kernel's file of all ports (/dev/port), the kernel's own parallel port device, through
+// which no paddle is seen.
 #pragma once
 
+#include "machines/linux/base_port.h"
+#include "machines/linux/droits.h"
 #include "seam/port.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace plateforme {
+
+/// What was refused on the three roads, each an errno: 0 if it was granted or not tried.
+struct refus_des_routes {
+    int ioperm = 0;
+    int dev_port = 0;
+    int parport = 0;                  ///< of /dev/parportN
+    bool parport_ouvert = false;      ///< the file opened: it is the port itself that was refused
+    std::vector<std::string> tenants; ///< the drivers that have that port
+};
 
 /// What the program got hold of at start.
 struct prise {
     std::unique_ptr<port> acces; ///< never null
     bool reel = false;           ///< false: writes go nowhere, reads give 255
-    int erreur_ioperm = 0;       ///< errno of the refused call, 0 if it was granted
-    int erreur_dev_port = 0;     ///< the same for opening /dev/port, 0 if granted or not tried
+    choix_de_port choix;
+    verrou garde; ///< held while the port is real; not had, the program must not start
+    refus_des_routes refus;
+
+    /// False: the address is not a parallel port's, or another program holds the port.
+    bool permise() const { return choix.refus.empty() && (garde.pris() || !garde.demande()); }
 };
 
-/// Takes the right to registers 888 to 890: `ioperm`, else `/dev/port`, else the port that is not there. To
-/// be called first thing in `main`: threads started later inherit the right, threads that run already do not.
-prise prend_port();
+/// Chooses the port, locks it against other programs and takes the right to its registers, or gives the port
+/// that is not there. To be called first thing in `main`: threads started later inherit the right, threads
+/// that run already do not.
+prise prend_port(std::optional<int> voulue);
 
-/// Why the port is not real, in one French sentence for the observer: the calls that failed with the system's
-/// reason, the likely cause, the remedy. Empty if the port is real. Reads a file of the system, so its place
-/// is after `abandonne_droits`.
+/// Why the program must not start, or why the port is not real: one French sentence for the observer, with
+/// the calls that failed, the system's reason, the likely cause, the remedy. Empty if the port is real. Reads
+/// files of the system, so its place is after `abandonne_droits`.
 std::string explication(const prise& p);
 
 // The pieces of the above, apart so that tests reach them without a port.
@@ -34,13 +52,12 @@ std::string explication(const prise& p);
 /// Signature of `ioperm`; gives 0, or -1 with errno set.
 using appel_ioperm = int (*)(unsigned long premier, unsigned long nombre, int permis);
 
-/// `prend_port` with its two doors given.
-prise prend_port(appel_ioperm demande, const char* chemin_dev_port);
+/// `prend_port` with its doors given.
+prise prend_port(appel_ioperm demande, const racines& r, std::optional<int> voulue);
 
-/// The sentence of `explication` for two errno values. `verrouillage` is the content of the kernel's lockdown
-/// file, such as "none [integrity] confidentiality", empty if there is none; `programme` the executable's
-/// path.
-std::string explique(int erreur_ioperm, int erreur_dev_port, std::string_view verrouillage,
+/// The sentence for a port that no road reaches. `verrouillage` is the content of the kernel's lockdown file,
+/// such as "none [integrity] confidentiality", empty if there is none; `programme` the executable's path.
+std::string explique(const port_connu& p, const refus_des_routes& refus, std::string_view verrouillage,
                      std::string_view programme);
 
 /// What of a byte read is handed on. Only four lines of the control register exist, and PCs differ in what

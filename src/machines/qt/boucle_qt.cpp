@@ -2,14 +2,20 @@
 
 #include "machines/qt/fin.h"
 
+#include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QTimerEvent>
 #include <algorithm>
 
 namespace plateforme::qt {
 
-boucle_qt::boucle_qt(std::function<void(std::int64_t)> attente, std::function<void()> apres_cession)
-    : attente_(std::move(attente)), apres_cession_(std::move(apres_cession)) {}
+boucle_qt::boucle_qt(std::function<void(std::int64_t)> attente, std::function<void()> apres_cession,
+                     const std::function<void()>& au_repos)
+    : attente_(std::move(attente)), apres_cession_(std::move(apres_cession)) {
+    if (au_repos)
+        QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
+                         au_repos);
+}
 
 void boucle_qt::attend(std::int64_t ns) {
     if (ns > 0)

@@ -13,8 +13,9 @@ namespace plateforme::qt {
 class boucle_qt final : public QObject, public boucle {
   public:
     /// `attente` returns no earlier than that many nanoseconds after its call; `apres_cession`
-    /// runs at the end of each yield.
-    explicit boucle_qt(std::function<void(std::int64_t)> attente, std::function<void()> apres_cession = {});
+    /// runs at the end of each yield, `au_repos` when nothing is left to do.
+    explicit boucle_qt(std::function<void(std::int64_t)> attente, std::function<void()> apres_cession = {},
+                       const std::function<void()>& au_repos = {});
 
     void attend(std::int64_t ns) override;
     /// One pass of the event loop, always.

@@ -59,6 +59,9 @@ std::unique_ptr<QApplication> ouvre_affichage(int& argc, char** argv) {
     const auto avant = qInstallMessageHandler(ecoute);
     auto application = std::make_unique<QApplication>(argc, argv);
     qInstallMessageHandler(avant);
+    // From here on Qt looks for its plugins in its own folder alone: nothing of the kind is delivered beside
+    // the program, whose folder may be anybody's.
+    QCoreApplication::removeLibraryPath(QCoreApplication::applicationDirPath());
     std::fputs(std::exchange(dit_a_l_ouverture, {}).toLocal8Bit().constData(), stderr);
     habille();
     return application;
@@ -76,7 +79,7 @@ seance::seance(int argc, char** argv, composition c) : argc_(argc), c_(std::move
     QApplication::setApplicationName("Velmoria");
     QApplication::setWindowIcon(icone_programme(c_.icone));
 
-    boucle_ = std::make_unique<boucle_qt>(c_.attente, c_.apres_cession);
+    boucle_ = std::make_unique<boucle_qt>(c_.attente, c_.apres_cession, c_.au_repos);
     vue_ = std::make_unique<vue_qt>();
     auto donnees = c_.donnees;
     if (donnees.empty())

@@ -37,6 +37,8 @@ struct composition {
     std::function<void(std::int64_t)> attente;
     /// Runs at the end of each yield; empty for nothing.
     std::function<void()> apres_cession = {};
+    /// Runs whenever the event loop has nothing left to do, so never within a motion; empty for nothing.
+    std::function<void()> au_repos = {};
     const char* icone = "velmoria"; ///< the program's icon among the pictures built in
     std::string avis =
         {}; ///< told on standard error and in a box before the main frame loads; empty for none

@@ -1,5 +1,7 @@
 #include "machines/linux/droits.h"
 
+#include "machines/linux/temps_reel.h"
+
 #include <csignal>
 #include <cstdio>
 #include <fstream>
@@ -10,6 +12,7 @@
 #include <sys/prctl.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 using namespace plateforme;
@@ -33,7 +36,7 @@ int issue(pid_t pid) {
 
 /// A capability set of this process in hexadecimal, as the kernel tells it: "CapEff:", "CapPrm:"...
 std::string ensemble(const std::string& nom) {
-    std::ifstream etat{"/proc/self/status"};
+    std::ifstream etat{"/proc/thread-self/status"};
     std::string mot;
     while (etat >> mot)
         if (mot == nom) {
@@ -58,12 +61,13 @@ bool vide(const std::string& nom) { return ensemble(nom) == std::string(16, '0')
 
 } // namespace
 
-TEST(Verrou, OneHolderPerNameAndFreeAtItsDeath) {
+TEST(Verrou, OneHolderPerNameKnownToOthersAndFreeAtItsDeath) {
     const std::string nom = "velmoria-essai-" + std::to_string(getpid());
     int tuyau[2];
     ASSERT_EQ(pipe(tuyau), 0);
     const pid_t tenant = enfante([&] {
-        const char reponse = verrouille(nom) ? 'o' : 'n';
+        const auto v = verrouille(nom);
+        const char reponse = v.pris() ? 'o' : 'n';
         if (write(tuyau[1], &reponse, 1) != 1)
             return 1;
         pause();
@@ -72,18 +76,59 @@ TEST(Verrou, OneHolderPerNameAndFreeAtItsDeath) {
     char reponse = 0;
     ASSERT_EQ(read(tuyau[0], &reponse, 1), 1);
     EXPECT_EQ(reponse, 'o');
-    EXPECT_FALSE(verrouille(nom));
-    EXPECT_EQ(issue(enfante([&] { return verrouille(nom) ? 1 : 0; })), 0);
-    EXPECT_TRUE(verrouille(nom + "-autre")) << "another name is another lock";
-    EXPECT_FALSE(verrouille(std::string(108, 'x'))) << "a name too long";
+    for (int i = 0; i < 3; ++i) {
+        const auto v = verrouille(nom);
+        EXPECT_FALSE(v.pris());
+        EXPECT_EQ(v.tenant(), tenant);
+        EXPECT_EQ(v.utilisateur(), geteuid());
+        EXPECT_NE(message_port_occupe(v).find("(processus " + std::to_string(tenant) + ", utilisateur "),
+                  std::string::npos);
+    }
+    EXPECT_TRUE(verrouille(nom + "-autre").pris()) << "another name is another lock";
+    EXPECT_FALSE(verrouille(std::string(108, 'x')).pris()) << "a name too long";
 
     // Killed without a chance to tidy up, the holder leaves no lock behind.
     kill(tenant, SIGKILL);
     EXPECT_EQ(issue(tenant), 1000 + SIGKILL);
-    EXPECT_TRUE(verrouille(nom));
-    EXPECT_FALSE(verrouille(nom)) << "the lock must outlive the call that took it";
+    const auto v = verrouille(nom);
+    EXPECT_TRUE(v.pris());
+    EXPECT_FALSE(verrouille(nom).pris()) << "the lock must outlive the call that took it";
     close(tuyau[0]);
     close(tuyau[1]);
+}
+
+TEST(TourDeRole, InForceWhileHalfStepsSleepAndHeldByNoOtherThread) {
+    enum { bien, sans_droit, trop_tot, absent, reste, herite };
+    const int resultat = issue(enfante([]() -> int {
+        tour_de_role tour;
+        if (!abandonne_droits() || !vide("CapPrm:"))
+            return reste;
+        if (tour.dernier() != tour_de_role::etat::pret)
+            return sans_droit;
+        const auto politique = [] { return sched_getscheduler(0) & ~SCHED_RESET_ON_FORK; };
+        tour.avant_attente(tour_de_role::au_moins - 1);
+        if (politique() != SCHED_OTHER || tour.dernier() != tour_de_role::etat::trop_court)
+            return trop_tot;
+        for (int i = 0; i < 2; ++i) {
+            tour.avant_attente(tour_de_role::au_moins);
+            tour.cession_finie();
+            tour.repos();
+            if (politique() != SCHED_RR || tour.dernier() != tour_de_role::etat::en_vigueur)
+                return absent;
+            int ailleurs = -1;
+            std::string droits;
+            std::thread{[&] { ailleurs = politique(), droits = ensemble("CapPrm:"); }}.join();
+            if (ailleurs != SCHED_OTHER || droits != std::string(16, '0'))
+                return herite;
+            tour.cession_finie(); // a yield without a wait: it turns on the spot
+            if (politique() != SCHED_OTHER)
+                return reste;
+        }
+        return bien;
+    }));
+    if (resultat == sans_droit)
+        GTEST_SKIP() << "no real-time scheduling for this account, or a single processor";
+    EXPECT_EQ(resultat, bien);
 }
 
 TEST(Droits, NoCapabilityIsLeftAndTheUserIsTheSame) {

@@ -8,7 +8,7 @@ namespace banc {
 
 /// Port, clock, waits and yields on the bench `e`, whose half-pulses are timed; what else there is to choose
 /// is left to the caller. All three must outlive the program; `attente.attend(ns)` returns no earlier than
-/// its length after its call.
+/// its length after its call, and is told of yields and rest if it wants to be.
 template <class Attente>
 plateforme::qt::composition sur_le_banc(etabli& e, plateforme::horloge& horloge, Attente& attente) {
     return {.port = e.port(),
@@ -18,7 +18,17 @@ plateforme::qt::composition sur_le_banc(etabli& e, plateforme::horloge& horloge,
                     e.commence_attente(ns);
                     attente.attend(ns);
                 },
-            .apres_cession = [&e] { e.cession_finie(); },
+            .apres_cession =
+                [&e, &attente] {
+                    e.cession_finie();
+                    if constexpr (requires { attente.cession_finie(); })
+                        attente.cession_finie();
+                },
+            .au_repos =
+                [&attente] {
+                    if constexpr (requires { attente.repos(); })
+                        attente.repos();
+                },
             .icone = "velmoria-banc"};
 }
 

@@ -3,6 +3,7 @@
 #include "bench/unites.h"
 #include "drive/position.h"
 #include "fields/frminterface_champs.h"
+#include "machines/qt/bench/afficheur.h"
 #include "machines/qt/bench/cadran.h"
 #include "machines/qt/bench/raquette_banc.h"
 #include "machines/qt/bench/voyants.h"
@@ -54,15 +55,6 @@ void ecrit(QLabel* l, const QString& texte) {
         l->setText(texte);
 }
 
-QLabel* chiffre(const char* nom, int largeur) {
-    auto* l = new QLabel{"0"};
-    l->setObjectName(nom);
-    l->setAccessibleName(nom);
-    l->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    l->setFixedWidth(largeur);
-    return l;
-}
-
 // What each gauge tells, by its name.
 constexpr std::pair<const char*, const char*> bulles[] = {
     {"voyants",
@@ -88,6 +80,8 @@ constexpr std::pair<const char*, const char*> bulles[] = {
     {"cette_nuit", "Le ciel de cette nuit, porté dans les années de l'almanach"},
     {"retard", "De combien la plus longue demi-impulsion a dépassé son temps"},
     {"oublie_retard", "Recommence la mesure du retard"},
+    {"temps_reel",
+     "Si les moteurs passent avant les autres programmes : ordonnancement à tour de rôle de Linux"},
     {"chemin_vcd", "Fichier de l'enregistrement des lignes"},
 };
 
@@ -100,7 +94,8 @@ QPushButton* bouton(const char* nom, const QString& texte) {
 
 } // namespace
 
-fenetre_banc::fenetre_banc(etabli& e, horloge_banc& h) : etabli_(e), horloge_(h) {
+fenetre_banc::fenetre_banc(etabli& e, horloge_banc& h, std::function<std::string_view()> temps_reel)
+    : etabli_(e), horloge_(h), temps_reel_(std::move(temps_reel)) {
     setObjectName("banc");
     setWindowTitle("Velmoria : banc d'essai (F8 le ramène)");
     qApp->installEventFilter(this);
@@ -166,10 +161,9 @@ void fenetre_banc::showEvent(QShowEvent* e) {
 QWidget* fenetre_banc::fait_lignes_du_port() {
     auto* groupe = new QGroupBox{"Lignes du port"};
     auto* colonne = new QVBoxLayout{groupe};
-    voyants_ = new voyants{groupe};
+    voyants_ = new voyants;
     voyants_->setObjectName("voyants");
-    registres_ = new QLabel;
-    registres_->setObjectName("registres");
+    registres_ = new afficheur{"registres", "registre 888 : 255     registre 890 : 255", Qt::AlignLeft};
     colonne->addWidget(voyants_);
     colonne->addWidget(registres_);
     return groupe;
@@ -185,7 +179,7 @@ QWidget* fenetre_banc::fait_axes() {
         {"cadence_az", "sens0_az", "sens8_az", "angle_az", "cru_az"},
         {"cadence_alt", "sens0_alt", "sens2_alt", "angle_alt", "cru_alt"}};
     // Azimuth from the top clockwise, as on a map; altitude from the right, upwards, as seen from the side.
-    cadrans_ = {new cadran{groupe, 0, 1}, new cadran{groupe, 90, -1}};
+    cadrans_ = {new cadran{0, 1}, new cadran{90, -1}};
     cadrans_[0]->setObjectName("cadran_az");
     cadrans_[1]->setObjectName("cadran_alt");
     for (int a = 0; a < 2; ++a) {
@@ -194,8 +188,8 @@ QWidget* fenetre_banc::fait_axes() {
         grille->addWidget(new QLabel{axe}, 0, a + 1, Qt::AlignRight);
         int rang = 0;
         for (auto** champ : {&l.cadence, &l.zero, &l.leve, &l.angle, &l.cru}) {
-            *champ = chiffre(noms[a][rang++], 108);
-            grille->addWidget(*champ, rang, a + 1);
+            *champ = new afficheur{noms[a][rang++], "−0000° 00' 00,0''", Qt::AlignRight};
+            grille->addWidget(*champ, rang, a + 1, Qt::AlignRight);
         }
         grille->addWidget(new QLabel{axe}, 0, a + 3, Qt::AlignHCenter);
         grille->addWidget(cadrans_[static_cast<std::size_t>(a)], 1, a + 3, 5, 1, Qt::AlignCenter);
@@ -221,9 +215,7 @@ QWidget* fenetre_banc::fait_axes() {
 QWidget* fenetre_banc::fait_horloge() {
     auto* groupe = new QGroupBox{"Horloge de l'ordinateur, vue par le programme"};
     auto* rang = new QHBoxLayout{groupe};
-    heure_ = new QLabel;
-    heure_->setObjectName("heure");
-    heure_->setMinimumWidth(150);
+    heure_ = new afficheur{"heure", "0000-00-00 00:00:00", Qt::AlignLeft};
     date_ = new plateforme::qt::ligne_de_texte;
     date_->setObjectName("date");
     date_->setAccessibleName("date");
@@ -257,8 +249,8 @@ QWidget* fenetre_banc::fait_horloge() {
 QWidget* fenetre_banc::fait_mesures() {
     auto* groupe = new QGroupBox{"Mesures"};
     auto* grille = new QGridLayout{groupe};
-    retard_ = new QLabel;
-    retard_->setObjectName("retard");
+    retard_ = new afficheur{"retard", "0000000000,0 µs", Qt::AlignLeft};
+    priorite_ = new afficheur{"temps_reel", "non, attentes trop courtes", Qt::AlignLeft};
     auto* oublie = bouton("oublie_retard", "Remettre à zéro");
     QObject::connect(oublie, &QPushButton::clicked, this, [this] {
         etabli_.oublie_retard();
@@ -267,6 +259,8 @@ QWidget* fenetre_banc::fait_mesures() {
     grille->addWidget(new QLabel{"Pire retard d'une demi-impulsion"}, 0, 0);
     grille->addWidget(retard_, 0, 1);
     grille->addWidget(oublie, 0, 2);
+    grille->addWidget(new QLabel{"Priorité de temps réel"}, 1, 0);
+    grille->addWidget(priorite_, 1, 1, 1, 2);
 
     chemin_ = new plateforme::qt::ligne_de_texte{QDir::home().filePath("velmoria.vcd")};
     chemin_->setObjectName("chemin_vcd");
@@ -275,10 +269,10 @@ QWidget* fenetre_banc::fait_mesures() {
     etat_->setObjectName("etat_vcd");
     etat_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // a long path makes no window wider
     QObject::connect(enregistre_, &QPushButton::clicked, this, [this] { bascule_enregistrement(); });
-    grille->addWidget(new QLabel{"Enregistrement (VCD)"}, 1, 0);
-    grille->addWidget(enregistre_, 1, 2);
-    grille->addWidget(chemin_, 2, 0, 1, 3);
-    grille->addWidget(etat_, 3, 0, 1, 3);
+    grille->addWidget(new QLabel{"Enregistrement (VCD)"}, 2, 0);
+    grille->addWidget(enregistre_, 2, 2);
+    grille->addWidget(chemin_, 3, 0, 1, 3);
+    grille->addWidget(etat_, 4, 0, 1, 3);
     grille->setColumnStretch(1, 1);
     if (plateforme::qt::guichet_ouvert) {
         planetarium_ = new QLabel;
@@ -287,7 +281,7 @@ QWidget* fenetre_banc::fait_mesures() {
         planetarium_->setMinimumHeight(
             3 * fontMetrics().lineSpacing()); // no text of it changes the window's size
         planetarium_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-        grille->addWidget(planetarium_, 4, 0, 1, 3);
+        grille->addWidget(planetarium_, 5, 0, 1, 3);
     }
     return groupe;
 }
@@ -331,8 +325,8 @@ void fenetre_banc::rafraichit() {
     auto& port = etabli_.port();
     auto& monture = etabli_.mount();
     voyants_->montre(port.donnees());
-    ecrit(registres_,
-          QString{"registre 888 : %1     registre 890 : %2"}.arg(port.donnees()).arg(port.controle()));
+    registres_->montre(
+        QString{"registre 888 : %1     registre 890 : %2"}.arg(port.donnees()).arg(port.controle()));
 
     const auto n = monture.compte();
     const auto u = unites_du_mode();
@@ -345,19 +339,21 @@ void fenetre_banc::rafraichit() {
     const bool compte = frminterface::baraltaz.regarde().visible;
     for (std::size_t i = 0; i < 2; ++i) {
         const auto cadence = monture.cadence(i == 0 ? axe::azimut : axe::altitude, maintenant);
-        ecrit(axes_[i].cadence, QString::number(cadence, 'f', cadence < 100 ? 1 : 0).replace('.', ','));
-        ecrit(axes_[i].zero, QString::number(comptes[i][0]));
-        ecrit(axes_[i].leve, QString::number(comptes[i][1]));
-        ecrit(axes_[i].angle, angle(reels[i]));
-        ecrit(axes_[i].cru, compte ? angle(crus[i]) : QStringLiteral("—"));
+        axes_[i].cadence->montre(QString::number(cadence, 'f', cadence < 100 ? 1 : 0).replace('.', ','));
+        axes_[i].zero->montre(QString::number(comptes[i][0]));
+        axes_[i].leve->montre(QString::number(comptes[i][1]));
+        axes_[i].angle->montre(angle(reels[i]));
+        axes_[i].cru->montre(compte ? angle(crus[i]) : QStringLiteral("—"));
         cadrans_[i]->montre(reels[i]);
     }
     const auto t = horloge_.maintenant();
-    ecrit(heure_, QString::asprintf("%04d-%02d-%02d %02d:%02d:%02d", t.annee, t.mois, t.jour, t.heure,
-                                    t.minute, t.seconde));
-    ecrit(retard_,
-          QString::number(static_cast<double>(etabli_.pire_retard()) / 1000.0, 'f', 1).replace('.', ',') +
-              " µs");
+    heure_->montre(QString::asprintf("%04d-%02d-%02d %02d:%02d:%02d", t.annee, t.mois, t.jour, t.heure,
+                                     t.minute, t.seconde));
+    retard_->montre(
+        QString::number(static_cast<double>(etabli_.pire_retard()) / 1000.0, 'f', 1).replace('.', ',') +
+        " µs");
+    const auto priorite = temps_reel_();
+    priorite_->montre(QString::fromUtf8(priorite.data(), static_cast<qsizetype>(priorite.size())));
     if (planetarium_ && plateforme::qt::guichet_ouvert)
         ecrit(planetarium_, plateforme::qt::affiche(plateforme::qt::guichet_ouvert->etat()));
 }

@@ -6,6 +6,8 @@
 
 #include <QWidget>
 #include <array>
+#include <functional>
+#include <string_view>
 
 class QLabel;
 class QLineEdit;
@@ -13,13 +15,14 @@ class QPushButton;
 
 namespace banc {
 
+class afficheur;
 class cadran;
 class voyants;
 
 class fenetre_banc final : public QWidget {
   public:
-    /// Both must outlive the window.
-    fenetre_banc(etabli& e, horloge_banc& h);
+    /// The first two must outlive the window; `temps_reel` tells whether the real-time priority is in force.
+    fenetre_banc(etabli& e, horloge_banc& h, std::function<std::string_view()> temps_reel);
     /// Brings every figure up to date; runs ten times a second by itself.
     void rafraichit();
     /// Starts a recording, as the path typed and the button do.
@@ -34,11 +37,11 @@ class fenetre_banc final : public QWidget {
 
   private:
     struct ligne { // one axis
-        QLabel* cadence = nullptr;
-        QLabel* zero = nullptr; // pulses with the direction line low
-        QLabel* leve = nullptr; // and raised
-        QLabel* angle = nullptr;
-        QLabel* cru = nullptr; // the position the program believes
+        afficheur* cadence = nullptr;
+        afficheur* zero = nullptr; // pulses with the direction line low
+        afficheur* leve = nullptr; // and raised
+        afficheur* angle = nullptr;
+        afficheur* cru = nullptr; // the position the program believes
     };
     QWidget* fait_lignes_du_port();
     QWidget* fait_axes();
@@ -50,13 +53,15 @@ class fenetre_banc final : public QWidget {
 
     etabli& etabli_;
     horloge_banc& horloge_;
+    std::function<std::string_view()> temps_reel_;
     voyants* voyants_ = nullptr;
-    QLabel* registres_ = nullptr;
+    afficheur* registres_ = nullptr;
     std::array<ligne, 2> axes_;
     std::array<cadran*, 2> cadrans_{};
-    QLabel* heure_ = nullptr;
+    afficheur* heure_ = nullptr;
     QLineEdit* date_ = nullptr;
-    QLabel* retard_ = nullptr;
+    afficheur* retard_ = nullptr;
+    afficheur* priorite_ = nullptr;
     QLineEdit* chemin_ = nullptr;
     QPushButton* enregistre_ = nullptr;
     QLabel* etat_ = nullptr;

@@ -1,7 +1,7 @@
 #include "machines/qt/bench/voyants.h"
 
 #include "machines/qt/nuit.h"
-
+#include <QPaintEvent>
 #include <QPainter>
 #include <array>
 
@@ -20,31 +20,40 @@ constexpr int largeur = 62;
 constexpr int hauteur = 58;
 constexpr int diametre = 18;
 
+// Lamp i from the left, with room for its smooth edge.
+QRect place(int i) { return {i * largeur + (largeur - diametre) / 2 - 1, 1, diametre + 2, diametre + 2}; }
+
 } // namespace
 
-voyants::voyants(QWidget* parent) : QWidget(parent) { setFixedSize(8 * largeur, hauteur); }
+voyants::voyants() { setFixedSize(8 * largeur, hauteur); }
 
 void voyants::montre(int donnees) {
-    if (donnees == donnees_)
-        return;
+    for (int i = 0; i < 8; ++i)
+        if (((donnees ^ donnees_) >> (7 - i)) & 1)
+            update(place(i));
     donnees_ = donnees;
-    update();
 }
 
-void voyants::paintEvent(QPaintEvent*) {
+void voyants::peint_le_fond(QPainter& p) {
+    p.setPen(palette().color(QPalette::WindowText));
+    for (int i = 0; i < 8; ++i)
+        p.drawText(QRect{i * largeur, diametre + 6, largeur, hauteur - diametre - 6},
+                   Qt::AlignHCenter | Qt::AlignTop, QString::fromUtf8(noms[static_cast<std::size_t>(i)]));
+}
+
+void voyants::paintEvent(QPaintEvent* e) {
     QPainter p{this};
     p.setRenderHint(QPainter::Antialiasing);
+    p.drawPixmap(0, 0, fond());
+    p.setPen(teinte(QColor{0x40, 0x40, 0x40}));
     for (int i = 0; i < 8; ++i) {
+        if (!e->region().intersects(place(i)))
+            continue;
         const bool allume = (donnees_ >> (7 - i)) & 1;
-        const int x = i * largeur;
-        p.setPen(teinte(QColor{0x40, 0x40, 0x40}));
         p.setBrush(nuit()   ? QColor{allume ? rouge_le_plus_vif : 24, 0, 0}
                    : allume ? QColor{0xE8, 0x3A, 0x2C}
                             : QColor{0xD4, 0xD0, 0xCC});
-        p.drawEllipse(x + (largeur - diametre) / 2, 2, diametre, diametre);
-        p.setPen(palette().color(QPalette::WindowText));
-        p.drawText(QRect{x, diametre + 6, largeur, hauteur - diametre - 6}, Qt::AlignHCenter | Qt::AlignTop,
-                   QString::fromUtf8(noms[static_cast<std::size_t>(i)]));
+        p.drawEllipse(place(i).adjusted(1, 1, -1, -1));
     }
 }
 

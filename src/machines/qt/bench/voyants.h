@@ -1,18 +1,19 @@
 // The eight data lines as lamps.
 #pragma once
 
-#include <QWidget>
+#include "machines/qt/bench/afficheur.h"
 
 namespace banc {
 
-class voyants final : public QWidget {
+class voyants final : public piece_rapide {
   public:
-    explicit voyants(QWidget* parent);
-    /// Paints only if the byte differs from the one shown.
+    voyants();
+    /// Paints the lamps that differ from those shown.
     void montre(int donnees);
 
   protected:
-    void paintEvent(QPaintEvent*) override;
+    void peint_le_fond(QPainter& p) override;
+    void paintEvent(QPaintEvent* e) override;
 
   private:
     int donnees_ = 0;
