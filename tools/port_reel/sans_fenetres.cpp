@@ -83,7 +83,7 @@ void observe(boucle_reelle& boucle) {
     const auto relit = [](int registre, std::initializer_list<int> valeurs) {
         std::printf(" ; %d", registre);
         for (const int v : valeurs) {
-            Out32(registre, v);
+            Out32(registre, base::entier16{v, "essai"});
             std::printf(" %d", Inp32(registre).valeur());
         }
     };
