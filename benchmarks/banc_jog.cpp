@@ -187,7 +187,8 @@ void fenetre_du_banc(banc::fenetre_banc& fenetre, banc::port_simule& port) {
             port.ecrit(plateforme::registre_donnees, 12);
         }
         port.ecrit(plateforme::registre_donnees, i % 2 ? 8 : 12);
-        for (const auto debut = clock_mono::now(); ecoule(debut) < 0.01;) // the other timers, out of the way
+        for (const auto debut = mesure::montre::now();
+             mesure::secondes_depuis(debut) < 0.01;) // the other timers, out of the way
             QCoreApplication::processEvents(QEventLoop::AllEvents);
         const double debut = temps_du_fil();
         fenetre.rafraichit();

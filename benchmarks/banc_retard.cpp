@@ -126,8 +126,9 @@ void jog(bilan& b, WId fenetre, int ms, int secondes) {
         cmd_moteur::entier32{static_cast<int>(ms * 1'000'000 / plateforme::ns_par_compte) - 1});
     *envoi() = 0;
     const pid_t presse = presse_plus_tard(fenetre, secondes);
-    QTimer::singleShot((secondes + 5) * 1000, [] { frmaltazpilot::cmddstop.appuie(); }); // if no key came
-    frmaltazpilot::cmdad.clic();
+    QTimer::singleShot((secondes + 5) * 1000,
+                       [] { frmaltazpilot::deplacement.cmddstop.appuie(); }); // if no key came
+    frmaltazpilot::deplacement.cmdad.clic();
     if (*envoi() != 0)
         b.arrets.push_back(static_cast<double>(horloge_monotone() - *envoi()) / 1e6);
     waitpid(presse, nullptr, 0);
