@@ -144,7 +144,7 @@ int main(int argc, char** argv) {
     // What the help and about panels show must not tell on which machine the pictures were made.
     plateforme::courante.aide = "/home/observateur/velmoria/aide";
     seance.demarre();
-    banc::fenetre_banc banc{etabli, horloge};
+    banc::fenetre_banc banc{etabli, horloge, [] { return std::string_view{"non, inutile au repos"}; }};
     banc.findChild<QLineEdit*>("chemin_vcd")->setText("/home/observateur/velmoria.vcd");
     banc.show();
     const photographe photo{seance.vue().principale(), dossier};

@@ -14,9 +14,9 @@ namespace plateforme::qt {
 
 namespace {
 
-constexpr int periode_ms = 250;
-constexpr int largeur = 560; // the longest line, and a main frame of 1000 beside its menus
-constexpr int marge = 8;
+constexpr int periode_de_l_etat_ms = 250;
+constexpr int largeur_de_l_etat = 560; // the longest line, and a main frame of 1000 beside its menus
+constexpr int marge_de_l_etat = 8;
 
 QString present() {
     auto s = etat::ligne();
@@ -30,9 +30,9 @@ QString present() {
 etat_barre::etat_barre(QWidget* parent) : QWidget(parent), texte_(present()) {
     setObjectName("etat");
     setAccessibleName(texte_);
-    setFixedWidth(largeur);
+    setFixedWidth(largeur_de_l_etat);
     setMinimumHeight(fontMetrics().height());
-    startTimer(periode_ms);
+    startTimer(periode_de_l_etat_ms);
 }
 
 void etat_barre::timerEvent(QTimerEvent*) {
@@ -47,7 +47,7 @@ void etat_barre::timerEvent(QTimerEvent*) {
 void etat_barre::paintEvent(QPaintEvent*) {
     QPainter p{this};
     p.setPen(palette().color(QPalette::WindowText));
-    const auto place = rect().adjusted(0, 0, -marge, 0);
+    const auto place = rect().adjusted(0, 0, -marge_de_l_etat, 0);
     p.drawText(place, Qt::AlignRight | Qt::AlignVCenter,
                fontMetrics().elidedText(texte_, Qt::ElideRight, place.width()));
 }
