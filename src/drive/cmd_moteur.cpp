@@ -93,9 +93,7 @@ void fixesens() {
 entier16 commande_du_sens(bool en_altitude, bool leve) {
     lit_inversion();
     const bool impair = (en_altitude ? invalt : invaz) != leve;
-    if (en_altitude)
-        return impair ? entier16{3} : entier16{4};
-    return impair ? entier16{1} : entier16{2};
+    return {(en_altitude ? 3 : 1) + (impair ? 0 : 1), "cmdsens"};
 }
 
 void port_a_la_raquette() {

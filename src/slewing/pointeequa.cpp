@@ -63,7 +63,7 @@ void pointeequa() {
     const double unite_ad = divise(360, tour_ad, "config_equa.ini, A.D") * 600 / 15;
     const double da = ciblead.reel() - reticulead;
     const double nbad = compte(da, unite_ad);
-    dirige(invpointad == (da < 0) ? entier16{2} : entier16{1});
+    dirige({invpointad == (da < 0) ? 2 : 1, "cmdsens"});
     cheminad.unite = da < 0 ? -unite_ad : unite_ad;
     frmDepl::fiche.montre();
     envoie(nbad, cmd_moteur::bitsens, cmd_moteur::bitpas, frmDepl::ProgressBaraz, cheminad.impulsions);
@@ -72,7 +72,7 @@ void pointeequa() {
     const double unite_dec = divise(360, tour_dec, "config_equa.ini, Déc.") * 600;
     const double dd = cibledec.reel() - reticuledec;
     const double nbdec = compte(dd, unite_dec);
-    dirige(invpointdec == (dd < 0) ? entier16{3} : entier16{4});
+    dirige({invpointdec == (dd < 0) ? 3 : 4, "cmdsens"});
     chemindec.unite = dd < 0 ? -unite_dec : unite_dec;
     envoie(nbdec, cmd_moteur::bitsens, cmd_moteur::bitpas, frmDepl::ProgressBaralt, chemindec.impulsions);
 

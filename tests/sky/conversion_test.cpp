@@ -37,7 +37,7 @@ double ecart(double az, double alt) {
 }
 
 std::vector<std::vector<std::string>> references(const std::string& nom) {
-    std::ifstream f{std::string{VELMORIA_ESSAIS} + "/sky/" + nom};
+    std::ifstream f{std::filesystem::path{VELMORIA_ESSAIS} / "sky" / nom};
     std::vector<std::vector<std::string>> toutes;
     std::string ligne;
     std::getline(f, ligne); // the source
