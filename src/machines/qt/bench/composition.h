@@ -21,11 +21,13 @@ plateforme::qt::composition sur_le_banc(etabli& e, plateforme::horloge& horloge,
             .apres_cession =
                 [&e, &attente] {
                     e.cession_finie();
+                    static_cast<void>(attente);
                     if constexpr (requires { attente.cession_finie(); })
                         attente.cession_finie();
                 },
             .au_repos =
                 [&attente] {
+                    static_cast<void>(attente);
                     if constexpr (requires { attente.repos(); })
                         attente.repos();
                 },
