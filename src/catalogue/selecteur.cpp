@@ -137,8 +137,10 @@ void branche(selecteur& s) {
             ouvre_menu_objet(s);
     });
     c.mnuaucun.au_clic([&s] { ote_filtre(s); });
-    for (std::int16_t n = 1; n < static_cast<int>(filtres.size()); ++n)
+    for (int i = 1; i < static_cast<int>(filtres.size()); ++i) {
+        const entier16 n{i, "filtreobjets"};
         (c.*filtre_de(n).entree).au_clic([&s, n] { applique_filtre(s, n); });
+    }
     c.mnunearest.au_clic([&s] { nomme_etoile_proche(s); });
 }
 

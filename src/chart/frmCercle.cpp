@@ -111,8 +111,8 @@ void choisit_catalogue(const choix_catalogue& choix) {
     redessine();
 }
 
-void choisit_filtre(std::int16_t n) {
-    chart::filtrecercle = n;
+void choisit_filtre(int n) {
+    chart::filtrecercle = {n, "filtrecercle"};
     for (auto* e : filtres)
         e->coche(false);
     filtres[n]->coche(true);
@@ -203,7 +203,7 @@ void branche_menu() {
     mnuConst.au_clic([] { bascule(chart::constvisible, mnuConst); });
     for (const auto& c : catalogues)
         c.menu.au_clic([&c] { choisit_catalogue(c); });
-    for (std::int16_t n = 0; n < static_cast<int>(std::size(filtres)); ++n)
+    for (int n = 0; n < static_cast<int>(std::size(filtres)); ++n)
         filtres[n]->au_clic([n] { choisit_filtre(n); });
     for (std::int16_t z = 1; z <= chart::zoom_maximum; ++z)
         entree_zoom(z).au_clic([z] {

@@ -51,7 +51,7 @@ bool reduit(const ensembles& permis) {
 
 /// A user's name, or his number if the file does not have it.
 std::string nom_d_utilisateur(uid_t utilisateur) {
-    const std::string numero = std::to_string(utilisateur);
+    std::string numero = std::to_string(utilisateur);
     std::ifstream comptes{"/etc/passwd"}; // name:password:number:...
     for (std::string ligne; std::getline(comptes, ligne);) {
         const auto nom = std::min(ligne.find(':'), ligne.size());
