@@ -17,6 +17,7 @@
 #include "machines/qt/bench/fenetre_banc.h"
 #include "machines/qt/lance.h"
 #include "machines/qt/mesures.h"
+#include "machines/qt/nuit.h"
 #include "machines/qt/vue_qt.h"
 #include "seam/plateforme.h"
 #include "slewing/etat_pointage.h"
@@ -116,6 +117,9 @@ void en_mouvement(const photographe& photo, QWidget* principale, banc::fenetre_b
         banc.rafraichit();
         photo.prend(&banc, "banc");
         photo.prend(principale, "pilotage");
+        plateforme::qt::met_la_nuit(true);
+        photo.prend(principale, "nuit");
+        plateforme::qt::met_la_nuit(false);
         frmaltazpilot::deplacement.cmddstop.clic();
     });
     frmaltazpilot::deplacement.cmdag.clic();

@@ -12,7 +12,7 @@ from pathlib import Path
 
 from PIL import Image
 
-noms = ["altazimutal", "banc", "pilotage", "frmaltazpilot-ouvert", "frmequapilot-ouvert", "frmraquette", "frmconfig",
+noms = ["altazimutal", "banc", "pilotage", "nuit", "frmaltazpilot-ouvert", "frmequapilot-ouvert", "frmraquette", "frmconfig",
         "frmequaconfig", "frmcoord", "frmaltazpointage", "frmequapointage", "frmDepl", "frmaltazsuivi", "Frmnotes", "carte-1",
         "carte-5"]
 origine, dossier = map(Path, sys.argv[1:])

@@ -29,9 +29,9 @@ inline constinit champ_etiquette lbllatmin{
 inline constinit champ_cadre frmeca{
     fiche, "frmeca", {60, 1185, 3750, 2925}, {.legende = "Paramètres mécaniques"}};
 inline constinit champ_etiquette lblazimut{
-    fiche, "lblazimut", {2340, 240, 690, 270}, {.legende = "Azimut", .cadre = &frmeca}};
+    fiche, "lblazimut", {2310, 240, 660, 270}, {.legende = "Azimut", .cadre = &frmeca}};
 inline constinit champ_etiquette lblaltitude{
-    fiche, "lblaltitude", {2970, 240, 720, 270}, {.legende = "Altitude", .cadre = &frmeca}};
+    fiche, "lblaltitude", {3000, 240, 735, 270}, {.legende = "Altitude", .cadre = &frmeca}};
 inline constinit champ_etiquette lblpas{
     fiche, "lblpas", {60, 570, 2250, 270}, {.legende = "Nombre de pas moteur", .cadre = &frmeca}};
 inline constinit champ_texte txtpasaz{fiche, "txtpasaz", {2340, 525, 600, 345}, {.cadre = &frmeca}};

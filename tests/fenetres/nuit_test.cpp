@@ -1,7 +1,11 @@
 // Night colours: no window shows anything but red, and the day comes back as it was.
 #include "fenetres.h"
 
+#include "fields/frmcoord_champs.h"
+#include "fields/frmequapilot_champs.h"
 #include "fields/frmequapointage_champs.h"
+#include "fields/frminterface_champs.h"
+#include "machines/qt/etat_barre.h"
 #include "machines/qt/nuit.h"
 #include "machines/qt/preferences.h"
 
@@ -90,6 +94,28 @@ TEST_F(lumiere, is_changed_by_one_key_everywhere_and_remembered) {
     frmequapointage::choix.lbObjets.droit(3);
     f9(principale());
     EXPECT_FALSE(plateforme::qt::nuit_retenue());
+}
+
+// At the right of the menus: what moves, without a panel loaded for it.
+TEST_F(lumiere, what_is_on_stands_beside_the_menus) {
+    auto* etat = principale()->findChild<plateforme::qt::etat_barre*>("etat");
+    ASSERT_TRUE(etat);
+    const auto dit = [etat](const char* texte) {
+        return QTest::qWaitFor([&] { return etat->texte() == texte; }, 2000);
+    };
+    EXPECT_TRUE(dit("Monture à choisir"));
+    frminterface::barchoix_boutons(1).clic();
+    EXPECT_TRUE(dit("Équatorial · ordinateur · à l'arrêt"));
+    frmequapilot::fiche.montre();
+    bool en_marche = false;
+    QTimer::singleShot(10, [&] {
+        en_marche = dit("Équatorial · ordinateur · déplacement");
+        frmequapilot::deplacement.cmddstop.clic();
+    });
+    frmequapilot::deplacement.cmdad.clic();
+    EXPECT_TRUE(en_marche);
+    EXPECT_TRUE(dit("Équatorial · ordinateur · à l'arrêt"));
+    EXPECT_FALSE(frmcoord::fiche.est_charge());
 }
 
 } // namespace

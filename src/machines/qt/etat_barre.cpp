@@ -30,10 +30,10 @@ QString present() {
 etat_barre::etat_barre(QWidget* parent) : QWidget(parent), texte_(present()) {
     setObjectName("etat");
     setAccessibleName(texte_);
-    setFixedWidth(largeur_de_l_etat);
-    setMinimumHeight(fontMetrics().height());
     startTimer(periode_de_l_etat_ms);
 }
+
+QSize etat_barre::sizeHint() const { return {largeur_de_l_etat, fontMetrics().height() + 6}; }
 
 void etat_barre::timerEvent(QTimerEvent*) {
     if (auto t = present(); t != texte_) {

@@ -1,6 +1,7 @@
 // The line at the right end of the menu bar that tells what is on.
 #pragma once
 
+#include <QSize>
 #include <QString>
 #include <QWidget>
 
@@ -11,6 +12,7 @@ class etat_barre final : public QWidget {
   public:
     explicit etat_barre(QWidget* parent);
     const QString& texte() const { return texte_; }
+    QSize sizeHint() const override;
 
   protected:
     void timerEvent(QTimerEvent* e) override;

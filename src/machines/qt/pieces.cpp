@@ -170,7 +170,7 @@ class lignes_entieres final : public QStyledItemDelegate {
         const auto s = QStyledItemDelegate::sizeHint(option, i);
         const int place = static_cast<QListWidget*>(parent())->viewport()->height();
         const int lignes = std::max(1, place / std::max(1, s.height()));
-        return {s.width(), std::max(s.height(), place / lignes)};
+        return {s.width(), std::max(s.height(), (place + lignes - 1) / lignes)};
     }
 };
 
@@ -182,6 +182,11 @@ liste::liste(shell::champ_liste& c, QWidget* parent) : QListWidget(parent), cham
     setItemDelegate(new lignes_entieres{this});
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setTextElideMode(Qt::ElideRight);
+}
+
+void liste::resizeEvent(QResizeEvent* e) {
+    QListWidget::resizeEvent(e);
+    doItemsLayout(); // the height of a line follows the list's
 }
 
 void liste::mousePressEvent(QMouseEvent* e) {
