@@ -17,8 +17,8 @@ namespace plateforme::qt {
 
 namespace {
 
-constexpr int periode_ms = 10;       // with a client
-constexpr int periode_seul_ms = 100; // without
+constexpr int periode_ms = 10;      // with a client
+constexpr int periode_seul_ms = 25; // without
 constexpr std::size_t clients_maximum = 2;
 constexpr std::size_t portion = 1024; // bytes read of a client at a tick: two hundred commands
 constexpr std::size_t attente_maximum =
