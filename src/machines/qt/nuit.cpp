@@ -1,7 +1,6 @@
 #include "machines/qt/nuit.h"
 
 #include "machines/qt/preferences.h"
-#include "machines/qt/style.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -65,6 +64,22 @@ QPalette de_nuit() {
 }
 
 } // namespace
+
+QPalette palette_de_jour() {
+    QPalette p{QColor{0xEF, 0xEF, 0xEC}};
+    p.setColor(QPalette::Window, QColor{0xEF, 0xEF, 0xEC});
+    p.setColor(QPalette::Base, Qt::white);
+    p.setColor(QPalette::Text, Qt::black);
+    p.setColor(QPalette::WindowText, Qt::black);
+    p.setColor(QPalette::ButtonText, Qt::black);
+    p.setColor(QPalette::Highlight, QColor{0x2F, 0x6D, 0xB5});
+    p.setColor(QPalette::HighlightedText, Qt::white);
+    for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+        p.setColor(QPalette::Disabled, role, QColor{0x8C, 0x8C, 0x8C});
+    return p;
+}
+
+QColor fond_de_la_zone() { return nuit() ? QColor{Qt::black} : QColor{0x8A, 0x90, 0x99}; }
 
 bool nuit() { return allumee; }
 

@@ -6,6 +6,7 @@
 #include <QColor>
 #include <QIcon>
 #include <QImage>
+#include <QPalette>
 #include <functional>
 
 class QPainter;
@@ -19,6 +20,12 @@ void ecoute_la_touche_de_nuit(bool nuit);
 
 /// The brightest red of the night, of 255; green and blue stay 0.
 inline constexpr int rouge_le_plus_vif = 200;
+
+/// The colours of the day.
+QPalette palette_de_jour();
+
+/// What the child windows lie on, by day or by night.
+QColor fond_de_la_zone();
 
 /// Whether the night colours are on.
 bool nuit();

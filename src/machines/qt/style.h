@@ -1,9 +1,6 @@
 // One look on every machine: widget style, colours and font.
 #pragma once
 
-#include <QColor>
-#include <QPalette>
-
 namespace plateforme::qt {
 
 /// Height of the font, logical pixels.
@@ -14,11 +11,5 @@ void prepare();
 
 /// To be called once it is.
 void habille();
-
-/// The colours of the day.
-QPalette palette_de_jour();
-
-/// What the child windows lie on, by day or by night.
-QColor fond_de_la_zone();
 
 } // namespace plateforme::qt

@@ -1,7 +1,7 @@
 #include "machines/qt/zone.h"
 
+#include "machines/qt/nuit.h"
 #include "machines/qt/preferences.h"
-#include "machines/qt/style.h"
 
 #include <QApplication>
 #include <QCloseEvent>
